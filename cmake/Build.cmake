@@ -1,0 +1,19 @@
+# Warnings, sanitizers and coverage, for all targets that link quillmere-build.
+option(QUILLMERE_WERROR "Treat warnings as errors" OFF)
+option(QUILLMERE_COVERAGE "Instrument for gcov" OFF)
+set(QUILLMERE_SANITIZE "" CACHE STRING "Sanitizers, comma separated: address,undefined or thread")
+
+add_library(quillmere-build INTERFACE)
+target_compile_features(quillmere-build INTERFACE cxx_std_17)
+target_include_directories(quillmere-build INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+target_compile_options(quillmere-build INTERFACE -Wall -Wextra -Wpedantic -Wshadow
+                       $<$<BOOL:${QUILLMERE_WERROR}>:-Werror>)
+if(QUILLMERE_SANITIZE)
+  target_compile_options(quillmere-build INTERFACE -fsanitize=${QUILLMERE_SANITIZE}
+                         -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(quillmere-build INTERFACE -fsanitize=${QUILLMERE_SANITIZE})
+endif()
+if(QUILLMERE_COVERAGE)
+  target_compile_options(quillmere-build INTERFACE --coverage)
+  target_link_options(quillmere-build INTERFACE --coverage)
+endif()

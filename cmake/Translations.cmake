@@ -1,0 +1,38 @@
+# The resource collection `texts`: one .qm for each .ts file, compiled into the program.
+find_package(Qt5LinguistTools REQUIRED)
+
+# quillmere_add_texts(<target> <directory of the .ts files>)
+#
+# Adds the collection to the sources of <target>. The four languages whose texts do not shrink much are
+# stored plain, the others compressed by zlib.
+function(quillmere_add_texts target directory)
+  set(plain chs cht jpn krn)
+  file(GLOB sources CONFIGURE_DEPENDS ${directory}/*.ts)
+  set(compiled)
+  set(entries "")
+  foreach(source IN LISTS sources)
+    get_filename_component(code ${source} NAME_WE)
+    set(qm ${CMAKE_CURRENT_BINARY_DIR}/texts/${code}.qm)
+    add_custom_command(
+      OUTPUT ${qm}
+      COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_CURRENT_BINARY_DIR}/texts
+      COMMAND Qt5::lrelease -silent -nounfinished ${source} -qm ${qm}
+      DEPENDS ${source} VERBATIM)
+    list(APPEND compiled ${qm})
+    if(code IN_LIST plain)
+      string(APPEND entries "    <file compression-algorithm=\"none\">${code}.qm</file>\n")
+    else()
+      string(APPEND entries "    <file threshold=\"0\" compress=\"9\">${code}.qm</file>\n")
+    endif()
+  endforeach()
+  set(qrc ${CMAKE_CURRENT_BINARY_DIR}/texts/texts.qrc)
+  file(CONFIGURE OUTPUT ${qrc} CONTENT "<RCC>\n  <qresource prefix=\"/\">\n@entries@  </qresource>\n</RCC>\n" @ONLY)
+  set(collection ${CMAKE_CURRENT_BINARY_DIR}/texts/qrc_texts.cpp)
+  # Version 1 of the format: later ones store time stamps, and default to another compression.
+  add_custom_command(
+    OUTPUT ${collection}
+    COMMAND Qt5::rcc --format-version 1 --name texts --output ${collection} ${qrc}
+    DEPENDS ${compiled} ${qrc} VERBATIM)
+  target_sources(${target} PRIVATE ${collection})
+  set_source_files_properties(${collection} PROPERTIES SKIP_AUTOGEN ON)
+endfunction()

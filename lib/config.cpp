@@ -1,0 +1,127 @@
+// The strict line parser behind Config.
+#include "config.h"
+
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <sstream>
+
+namespace {
+
+constexpr int kLineBuffer = 0x2000;
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, FileCloser>;
+
+// The classes are those of the syntax, whatever the locale's <cctype> says.
+bool IsSpace(char c) {
+    return (c >= '\t' && c <= '\r') || c == ' ';
+}
+
+bool IsKeyCharacter(char c) {
+    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' ||
+           c == '-' || c == '.';
+}
+
+bool IsQuote(char c) {
+    return c == '"' || c == '\'';
+}
+
+bool IsControl(char c) {
+    const unsigned char byte = static_cast<unsigned char>(c);
+    return byte < 0x20 || byte == 0x7F;
+}
+
+bool EndsLine(char c) {
+    return c == 0 || c == '#';
+}
+
+const char* SkipSpace(const char* at) {
+    while (IsSpace(*at)) {
+        ++at;
+    }
+    return at;
+}
+
+// Take a value from `at`, which is moved behind it. False: malformed.
+bool TakeQuoted(const char*& at, ustring& value) {
+    const char quote = *at++;
+    const char* const start = at;
+    while (*at != quote) {
+        if (IsControl(*at)) {
+            return false;
+        }
+        ++at;
+    }
+    value.assign(start, static_cast<unsigned long>(at - start));
+    ++at;
+    return true;
+}
+
+bool TakePlain(const char*& at, ustring& value) {
+    const char* const start = at;
+    while (!IsControl(*at) && *at != ' ') {
+        ++at;
+    }
+    value.assign(start, static_cast<unsigned long>(at - start));
+    return at != start;
+}
+
+// Stores the line's key and value, if it has them. False: malformed.
+bool ParseLine(const char* line, Config& config) {
+    const char* at = SkipSpace(line);
+    const char* const key = at;
+    while (IsKeyCharacter(*at)) {
+        ++at;
+    }
+    const unsigned long key_length = static_cast<unsigned long>(at - key);
+    if (EndsLine(*at)) {
+        return true;
+    }
+    at = SkipSpace(at);
+    if (*at != '=') {
+        return false;
+    }
+    at = SkipSpace(at + 1);
+    ustring value;
+    if (!(IsQuote(*at) ? TakeQuoted(at, value) : TakePlain(at, value))) {
+        return false;
+    }
+    if (!EndsLine(*SkipSpace(at))) {
+        return false;
+    }
+    ustring name;
+    name.append(key, key_length);
+    config[name] = value;
+    return true;
+}
+
+}  // namespace
+
+int Config::read(const ustring& path) {
+    if (path.empty()) {
+        return -1;
+    }
+    const File file(std::fopen(path.c_str(), "r"));
+    if (!file) {
+        return -1;
+    }
+    char line[kLineBuffer];
+    while (std::fgets(line, sizeof line, file.get()) != nullptr) {
+        if (!ParseLine(line, *this)) {
+            clear();
+            return -1;
+        }
+    }
+    return 0;
+}
+
+int Config::get_int(const ustring& key) {
+    std::stringstream text;
+    text << (*this)[key];
+    int number = 0;
+    text >> number;
+    return number;
+}

@@ -1,0 +1,312 @@
+// The logger: thresholds, the one critical section of a message, and rotation.
+#include "log.h"
+
+#include <fcntl.h>
+#include <syslog.h>
+
+#include <cstdlib>
+#include <ctime>
+
+#include "config.h"
+
+namespace {
+
+constexpr int kDefaultThreshold = 4;
+constexpr int kRotationLimit = 1048576;
+constexpr int kSyslogPriority = 3;
+constexpr char kTimeFormat[] = "%b %d %H:%M:%S ";
+
+class Guard {
+  public:
+    Guard() { Logger::Lock(); }
+    ~Guard() { Logger::Unlock(); }
+    Guard(const Guard&) = delete;
+    Guard& operator=(const Guard&) = delete;
+};
+
+// The members that are read before the lock is taken: relaxed, since the reader only needs either
+// value.
+template <class T>
+T Peek(const T& member) {
+    T value;
+    __atomic_load(&member, &value, __ATOMIC_RELAXED);
+    return value;
+}
+
+template <class T, class U>
+void Poke(T& member, U value) {
+    T converted = value;
+    __atomic_store(&member, &converted, __ATOMIC_RELAXED);
+}
+
+template <class T>
+T* Allocate() {
+    return static_cast<T*>(std::malloc(sizeof(T)));
+}
+
+template <class T>
+void Free(T*& block) {
+    std::free(block);
+    Poke(block, nullptr);
+}
+
+// The name of a rotated file.
+class RotatedName {
+  public:
+    RotatedName(const ustring& path, int number)
+        : length_(std::snprintf(name_, sizeof name_, "%s_%d", path.c_str(), number)) {}
+    bool fits() const { return length_ >= 0 && static_cast<std::size_t>(length_) < sizeof name_; }
+    const char* c_str() const { return name_; }
+
+  private:
+    char name_[1024];
+    int length_;
+};
+
+int WriteTimeStamp(std::FILE* stream) {
+    const std::time_t now = std::time(nullptr);
+    char stamp[512] = "";
+    // Not reentrant, and used inside the lock only.
+    if (const std::tm* const local = std::localtime(&now)) {
+        std::strftime(stamp, sizeof stamp, kTimeFormat, local);
+    }
+    return std::fprintf(stream, "%s", stamp);
+}
+
+}  // namespace
+
+Logger::Type Logger::log_type = Logger::TYPE_STDOUT;
+bool Logger::log_initialized = true;
+int Logger::rotate_cnt = 50;
+std::FILE* Logger::log_fp = stderr;
+ustring Logger::log_path;
+std::map<ustring, int> Logger::log_level;
+pthread_mutex_t* Logger::log_lock = nullptr;
+int* Logger::log_size = nullptr;
+std::uint64_t* Logger::log_rotated_count_shared = nullptr;
+std::uint64_t Logger::log_rotated_count_private = 0;
+
+int Logger::Initialize(Type type, const ustring& path, const ustring& level_path, int rotate) {
+    DestroySharedData();
+    DestroyLock();
+    InitializeLock();
+    InitializeSharedData();
+    if (log_lock == nullptr || log_size == nullptr) {
+        return -1;
+    }
+    log_level["default_component"] = kDefaultThreshold;
+    if (!level_path.empty()) {
+        Config levels;
+        levels.read(level_path);
+        for (const auto& level : levels) {
+            log_level[level.first] = levels.get_int(level.first);
+        }
+    }
+    // Kept for the case that the new one cannot be had: lines then go on to where they went.
+    Poke(log_type, type);
+    *log_size = -1;
+    *log_rotated_count_shared = 0;
+    log_rotated_count_private = 0;
+    if (type == TYPE_FILE) {
+        if (path.empty() || OpenFile(path) != 0) {
+            return -1;
+        }
+        log_path = path;
+        rotate_cnt = rotate;
+    } else {
+        CloseFile();
+        Poke(log_fp, type == TYPE_STDOUT ? stdout : type == TYPE_STDERR ? stderr : nullptr);
+        log_path.clear();
+    }
+    Poke(log_initialized, true);
+    return 0;
+}
+
+void Logger::LogMsg(Level level, const ustring& component, const char* format, ...) {
+    va_list args;
+    va_start(args, format);
+    LogMsg2(level, component, format, args);
+    va_end(args);
+}
+
+void Logger::LogMsg2(Level level, const ustring& component, const char* format, va_list args) {
+    if (!Peek(log_initialized)) {
+        return;
+    }
+    EnsureReady();
+    if (HasNowhereToWrite()) {
+        return;
+    }
+    const Guard guard;
+    FollowRotation();
+    if (Passes(level, component)) {
+        Count(Write(format, args));
+    }
+}
+
+// A process that never called Initialize comes to its lock and blocks here.
+void Logger::EnsureReady() {
+    if (Peek(log_lock) == nullptr) {
+        InitializeLock();
+    }
+    if (Peek(log_size) == nullptr || Peek(log_rotated_count_shared) == nullptr) {
+        InitializeSharedData();
+    }
+}
+
+bool Logger::HasNowhereToWrite() {
+    return Peek(log_lock) == nullptr || Peek(log_size) == nullptr ||
+           (Peek(log_type) != TYPE_SYSLOG && Peek(log_fp) == nullptr);
+}
+
+// Another writer of the log has rotated it: the path names a new file.
+void Logger::FollowRotation() {
+    if (log_rotated_count_private == *log_rotated_count_shared) {
+        return;
+    }
+    ReloadLogFile();
+    log_rotated_count_private = *log_rotated_count_shared;
+}
+
+bool Logger::Passes(Level level, const ustring& component) {
+    const auto found = log_level.find(component);
+    const int threshold = found == log_level.end() ? kDefaultThreshold : found->second;
+    return level <= threshold;
+}
+
+// Result: the bytes written, negative on failure.
+int Logger::Write(const char* format, va_list args) {
+    if (log_type == TYPE_SYSLOG) {
+        vsyslog(kSyslogPriority, format, args);
+        return 0;
+    }
+    if (log_fp == nullptr) {
+        return 0;
+    }
+    const int stamp = WriteTimeStamp(log_fp);
+    const int text = std::vfprintf(log_fp, format, args);
+    std::fflush(log_fp);
+    return stamp < 0 || text < 0 ? -1 : stamp + text;
+}
+
+void Logger::Count(int written) {
+    if (log_type != TYPE_FILE || *log_size < 0 || written < 0) {
+        return;
+    }
+    *log_size += written;
+    if (*log_size > kRotationLimit) {
+        Rotate();
+        *log_size = 0;
+    }
+}
+
+int Logger::Rotate() {
+    if (!RotatedName(log_path, rotate_cnt).fits()) {
+        return -1;
+    }
+    for (int i = rotate_cnt - 2; i >= 0; --i) {
+        std::rename(RotatedName(log_path, i).c_str(), RotatedName(log_path, i + 1).c_str());
+    }
+    std::remove(RotatedName(log_path, rotate_cnt - 1).c_str());
+    CloseFile();
+    if (std::rename(log_path.c_str(), RotatedName(log_path, 0).c_str()) != 0 ||
+        OpenFile(log_path) != 0) {
+        return -1;
+    }
+    ++*log_rotated_count_shared;
+    ++log_rotated_count_private;
+    return 0;
+}
+
+void Logger::ReloadLogFile() {
+    if (log_type != TYPE_FILE) {
+        return;
+    }
+    CloseFile();
+    OpenFile(log_path);
+}
+
+// On success the stream is the log's, in place of the former, and its count starts at 0; on failure
+// both stay.
+int Logger::OpenFile(const ustring& path) {
+    std::FILE* const opened = std::fopen(path.c_str(), "a");
+    if (opened == nullptr) {
+        return -1;
+    }
+    // The client that this process starts must not hold the log.
+    fcntl(fileno(opened), F_SETFD, FD_CLOEXEC);
+    CloseFile();
+    Poke(log_fp, opened);
+    *log_size = 0;
+    return 0;
+}
+
+void Logger::CloseFile() {
+    if (log_fp != nullptr && log_fp != stderr && log_fp != stdout) {
+        std::fclose(log_fp);
+    }
+    Poke(log_fp, nullptr);
+}
+
+void Logger::Destroy() {
+    Poke(log_initialized, false);
+    if (log_type == TYPE_FILE) {
+        CloseFile();
+        log_path.clear();
+    }
+    DestroySharedData();
+    DestroyLock();
+}
+
+void Logger::InitializeLock() {
+    if (log_lock != nullptr) {
+        return;
+    }
+    pthread_mutex_t* const lock = Allocate<pthread_mutex_t>();
+    if (lock != nullptr) {
+        pthread_mutex_init(lock, nullptr);
+        Poke(log_lock, lock);
+    }
+}
+
+void Logger::DestroyLock() {
+    if (log_lock != nullptr) {
+        pthread_mutex_destroy(log_lock);
+        Free(log_lock);
+    }
+}
+
+void Logger::Lock() {
+    pthread_mutex_lock(log_lock);
+}
+
+void Logger::Unlock() {
+    pthread_mutex_unlock(log_lock);
+}
+
+void Logger::InitializeSharedData() {
+    if (log_size != nullptr && log_rotated_count_shared != nullptr) {
+        return;
+    }
+    DestroySharedData();
+    int* const size = Allocate<int>();
+    std::uint64_t* const rotations = Allocate<std::uint64_t>();
+    if (size == nullptr || rotations == nullptr) {
+        std::free(size);
+        std::free(rotations);
+        return;
+    }
+    *size = log_path.empty() ? -1 : 0;
+    *rotations = log_rotated_count_private;
+    Poke(log_size, size);
+    Poke(log_rotated_count_shared, rotations);
+}
+
+void Logger::DestroySharedData() {
+    Free(log_size);
+    Free(log_rotated_count_shared);
+}
+
+void LogMSG_c(int level, char* component, const char* format, va_list args) {
+    Logger::LogMsg2(static_cast<Logger::Level>(level), component, format, args);
+}

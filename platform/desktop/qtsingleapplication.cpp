@@ -1,0 +1,70 @@
+// The single instance, by a lock file.
+#include "platform/desktop/qtsingleapplication.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+
+#include "platform/files/unique-fd.h"
+
+namespace {
+
+bool IsOwn(const QString& path) {
+    struct stat status;
+    return lstat(QFile::encodeName(path).constData(), &status) == 0 && status.st_uid == getuid();
+}
+
+// The XDG Base Directory Specification's directory for such files, if the session has one.
+QString LockDirectory() {
+    const QString runtime = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
+    return !runtime.isEmpty() && IsOwn(runtime) ? runtime : QDir::tempPath();
+}
+
+QString LockPath() {
+    const QByteArray path = QCoreApplication::applicationFilePath().toUtf8();
+    const QByteArray id = QCryptographicHash::hash(path, QCryptographicHash::Sha1).toHex().left(16);
+    return QStringLiteral("%1/quillmere-launcher-%2-%3.lock")
+        .arg(LockDirectory(), QString::fromLatin1(id))
+        .arg(getuid());
+}
+
+// QLockFile keeps its file locked with flock(2) as long as it owns it, and the kernel ends that
+// with the process. So whoever gets the lock of the file has found one that nobody owns, whatever
+// it says inside.
+void RemoveIfAbandoned(const QString& path) {
+    const QByteArray name = QFile::encodeName(path);
+    const UniqueFd file(open(name.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
+    struct stat opened;
+    struct stat named;
+    if (file.valid() && flock(file.get(), LOCK_EX | LOCK_NB) == 0 &&
+        fstat(file.get(), &opened) == 0 && lstat(name.constData(), &named) == 0 &&
+        opened.st_ino == named.st_ino) {
+        unlink(name.constData());
+    }
+}
+
+}  // namespace
+
+QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool) : QApplication(argc, argv) {}
+
+QtSingleApplication::~QtSingleApplication() = default;
+
+bool QtSingleApplication::isRunning() {
+    if (lock_ && lock_->isLocked()) {
+        return false;
+    }
+    const QString path = LockPath();
+    lock_.reset(new QLockFile(path));
+    lock_->setStaleLockTime(
+        0);  // age alone makes no lock stale: an upgrade takes as long as it takes
+    if (!lock_->tryLock(0) && lock_->error() == QLockFile::LockFailedError) {
+        RemoveIfAbandoned(path);
+        lock_->tryLock(0);
+    }
+    return !lock_->isLocked() && lock_->error() == QLockFile::LockFailedError && IsOwn(path);
+}

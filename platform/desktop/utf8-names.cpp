@@ -1,0 +1,26 @@
+// File names in UTF-8.
+#include "platform/desktop/utf8-names.h"
+
+#include <langinfo.h>
+
+#include <QTextCodec>
+#include <clocale>
+#include <cstring>
+
+namespace {
+
+bool CharactersAreUtf8() {
+    return std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
+}
+
+}  // namespace
+
+void UseUtf8FileNames() {
+    // glibc and musl, older Debian, Apple and the BSDs, and what most machines have anyway.
+    for (const char* locale : {"C.UTF-8", "UTF-8", "en_US.UTF-8"}) {
+        if (CharactersAreUtf8() || std::setlocale(LC_CTYPE, locale) != nullptr) {
+            break;
+        }
+    }
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}

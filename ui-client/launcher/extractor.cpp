@@ -1,0 +1,225 @@
+// The layer over libarchive that unpacks the package.
+#include "ui-client/launcher/extractor.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+
+#include <cstdio>
+#include <memory>
+
+#include "log.h"
+#include "ui-client/launcher/notify-adapter.h"
+#include "ui-client/launcher/str-table.h"
+
+namespace {
+
+constexpr std::size_t kBlockSize = 10240;
+const ustring kComponent("extractor_debug");
+
+// What is written is new and lies under the user's own directory. So an existing file is replaced
+// and not written through (UNLINK), a path may not climb (NODOTDOT), and Mac OS X metadata go with
+// the files; owner, exact mode and times of the machine that made the package mean nothing here.
+constexpr int kWriteOptions =
+    ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
+
+struct ReaderFreer {
+    void operator()(archive* reader) const { archive_read_free(reader); }
+};
+using Reader = std::unique_ptr<archive, ReaderFreer>;
+
+struct WriterFreer {
+    void operator()(archive* writer) const { archive_write_free(writer); }
+};
+using Writer = std::unique_ptr<archive, WriterFreer>;
+
+int Open(archive* reader, const ustring& path) {
+    return archive_read_open_filename(reader, path.c_str(), kBlockSize);
+}
+
+// Why the last call on `handle` failed, where libarchive knows.
+const char* ErrorText(archive* handle) {
+    const char* const text = archive_error_string(handle);
+    return text == nullptr ? "unknown error" : text;
+}
+
+// A failed extraction is told by the side that failed: damaged data are known to the reader alone.
+const char* ErrorText(archive* writer, archive* reader) {
+    return archive_error_string(writer) == nullptr ? ErrorText(reader) : ErrorText(writer);
+}
+
+// Opens the archive for a look through its headers. Null on failure, which is logged.
+Reader OpenToLook(const ustring& path) {
+    Reader reader(archive_read_new());
+    if (!reader) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] extractor(%d): Allocate archive failed\n", __LINE__);
+        return nullptr;
+    }
+    archive_read_support_filter_all(reader.get());
+    archive_read_support_format_all(reader.get());
+    if (Open(reader.get(), path) != ARCHIVE_OK) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__,
+                       ErrorText(reader.get()));
+        return nullptr;
+    }
+    return reader;
+}
+
+// The next entry, its data skipped later; null at the end, be it of the archive or of what can be
+// read.
+archive_entry* NextEntry(archive* reader) {
+    archive_entry* entry = nullptr;
+    return archive_read_next_header(reader, &entry) == ARCHIVE_OK ? entry : nullptr;
+}
+
+}  // namespace
+
+bool Extractor::HasPaths() const {
+    return m_source != "" && m_dest != "";
+}
+
+int Extractor::Extract() {
+    if (!HasPaths()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] extractor(%d): Invalid Argument\n",
+                       __LINE__);
+        return -1;
+    }
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
+                   "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n", __LINE__,
+                   m_source.c_str(), m_dest.c_str());
+    Notify_Adapter::GetInstance()->UpdateDialogText(
+        StrTable::LoadStr(StrTable::kEnvironmentPreparing));
+    const int total = Count();
+    if (total < 1) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] extractor(%d): Failed to calculate total file numbers, ret: %d\n",
+                       __LINE__, total);
+        return -1;
+    }
+    // The writer is declared first: the reader is to be freed before it.
+    Writer writer;
+    const Reader reader(archive_read_new());
+    if (reader) {
+        writer.reset(archive_write_disk_new());
+    }
+    if (!reader || !writer) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
+        return -1;
+    }
+    archive_write_disk_set_options(writer.get(), kWriteOptions);
+    archive_read_support_filter_all(reader.get());
+    archive_read_support_format_all(reader.get());
+    if (Open(reader.get(), m_source) != ARCHIVE_OK) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n", __LINE__,
+                       m_source.c_str(), ErrorText(reader.get()));
+        return -1;
+    }
+    return ExtractEntries(total, reader.get(), writer.get());
+}
+
+int Extractor::ExtractEntries(int total, archive* reader, archive* writer) {
+    const ustring prefix = m_dest + "/";
+    for (int number = 1;; ++number) {
+        archive_entry* entry = nullptr;
+        const int header = archive_read_next_header(reader, &entry);
+        if (header == ARCHIVE_EOF) {
+            return 0;
+        }
+        if (header != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                           "[ERROR] extractor(%d): archive_read_next_header failed: '%s'\n",
+                           __LINE__, ErrorText(reader));
+            return -1;
+        }
+        const char* const path = archive_entry_pathname(entry);
+        if (path == nullptr) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                           "[ERROR] extractor(%d): archive_entry_pathname failed", __LINE__);
+            return -1;
+        }
+        archive_entry_set_pathname(entry, (prefix + path).c_str());
+        if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                           "[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n", __LINE__,
+                           ErrorText(writer, reader));
+            return -1;
+        }
+        Notify_Adapter::GetInstance()->UpdateProgress(total, number);
+        if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                           "[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n",
+                           __LINE__, ErrorText(writer));
+            return -1;
+        }
+    }
+}
+
+int Extractor::Count() {
+    if (!HasPaths()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] extractor(%d): Invalid argument\n",
+                       __LINE__);
+        return -1;
+    }
+    const Reader reader = OpenToLook(m_source);
+    if (!reader) {
+        return -1;
+    }
+    int count = 0;
+    while (NextEntry(reader.get()) != nullptr) {
+        ++count;
+        archive_read_data_skip(reader.get());
+    }
+    return count;
+}
+
+int Extractor::List() {
+    if (!HasPaths()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] extractor(%d): Invalid argument\n",
+                       __LINE__);
+        return -1;
+    }
+    const Reader reader = OpenToLook(m_source);
+    if (!reader) {
+        return -1;
+    }
+    while (archive_entry* const entry = NextEntry(reader.get())) {
+        const char* const path = archive_entry_pathname(entry);
+        std::printf("%s\n", path == nullptr ? "" : path);
+        std::fflush(stdout);
+        archive_read_data_skip(reader.get());
+    }
+    archive_read_close(reader.get());
+    return 0;
+}
+
+int Extractor::copy_data(archive* ar, archive* aw) {
+    if (ar == nullptr || aw == nullptr) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] extractor(%d): Invalid Argument\n",
+                       __LINE__);
+        return -1;
+    }
+    for (;;) {
+        const void* buffer = nullptr;
+        std::size_t size = 0;
+        la_int64_t offset = 0;
+        const int block = archive_read_data_block(ar, &buffer, &size, &offset);
+        if (block == ARCHIVE_EOF) {
+            return 0;
+        }
+        if (block != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                           "[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n",
+                           __LINE__, ErrorText(ar));
+            return -1;
+        }
+        if (archive_write_data_block(aw, buffer, size, offset) != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                           "[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n",
+                           __LINE__, ErrorText(aw));
+            return -1;
+        }
+    }
+}

@@ -1,0 +1,123 @@
+// The run of the program.
+#include "ui-client/launcher/launcher.h"
+
+#include <QCoreApplication>
+#include <climits>
+
+#include "log.h"
+#include "ui-client/launcher/mac/mac-service.h"
+#include "ui-client/launcher/notify-adapter.h"
+#include "ui-client/launcher/processing-progress-dialog.h"
+#include "ui-client/launcher/str-table.h"
+
+namespace {
+
+const ustring kComponent("launcher_debug");
+
+}  // namespace
+
+HandlerThread::HandlerThread() : QThread(nullptr) {}
+
+HandlerThread::~HandlerThread() {}
+
+void HandlerThread::run() {
+    exec();
+}
+
+Worker::Worker() : QObject(nullptr) {
+    m_service = new MacService;
+    m_thread = new HandlerThread;
+    moveToThread(m_thread);
+}
+
+Worker::~Worker() {
+    delete m_thread;
+    delete m_service;
+}
+
+void Worker::StartThread() {
+    m_thread->start(QThread::InheritPriority);
+}
+
+void Worker::QuitThread() {
+    m_thread->quit();
+}
+
+void Worker::JoinThread() {
+    m_thread->wait(ULONG_MAX);
+}
+
+void Worker::HandleServicce() {
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] launcher(%d): running\n", __LINE__);
+    m_service->PreUpgrade();
+    if (m_service->IsNeedUpgrade()) {
+        emit sigShowMsg();
+        if (m_service->HandlePackageUpgrade() == 0) {
+            emit sigUpdateProgress(100, 100);
+            emit sigSetLabelText(StrTable::LoadStr(StrTable::kEnvironmentReady));
+        } else {
+            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                           "[ERROR] launcher(%d): Failed to upgrade package\n", __LINE__);
+        }
+    } else {
+        Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
+                       "[DEBUG] launcher(%d): no need to upgrade\n", __LINE__);
+    }
+    m_service->RemoveAgedFolders();
+    m_service->PostUpgrade();
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] launcher(%d): done\n", __LINE__);
+    emit sigServiceDone();
+}
+
+Launcher::Launcher() : QObject(nullptr) {
+    m_worker = new Worker;
+    m_dialog = new ProcessingProgressDialog;
+    m_dialog->setCancelButton(nullptr);
+    m_dialog->setAutoReset(false);
+
+    connect(this, SIGNAL(sigStart()), m_worker, SLOT(HandleServicce()), Qt::AutoConnection);
+    connect(m_worker, SIGNAL(sigShowMsg()), this, SLOT(ShowMsgBox()), Qt::AutoConnection);
+    connect(m_worker, SIGNAL(sigServiceDone()), this, SLOT(LaunchDone()), Qt::AutoConnection);
+    connect(m_worker, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)),
+            Qt::AutoConnection);
+    connect(m_worker, SIGNAL(sigSetLabelText(QString)), this, SLOT(SetLabelText(QString)),
+            Qt::AutoConnection);
+    connect(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateProgress(int, int)), this,
+            SLOT(UpdateProgress(int, int)), Qt::AutoConnection);
+    connect(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateDialogText(QString)), this,
+            SLOT(SetLabelText(QString)), Qt::AutoConnection);
+}
+
+Launcher::~Launcher() {
+    delete m_worker;
+    delete m_dialog;
+}
+
+void Launcher::Run() {
+    m_worker->StartThread();
+}
+
+void Launcher::Start() {
+    emit sigStart();
+}
+
+void Launcher::LaunchDone() {
+    m_dialog->setValue(100);
+    m_dialog->hide();
+    m_worker->QuitThread();
+    m_worker->JoinThread();
+    QCoreApplication::quit();
+}
+
+void Launcher::UpdateProgress(int total, int steps) {
+    // Wider than the arguments: the product of a large package's numbers is no int.
+    m_dialog->setValue(static_cast<int>(qint64{steps} * 100 / total));
+}
+
+void Launcher::SetLabelText(const QString& text) {
+    m_dialog->setLabelText(text);
+}
+
+void Launcher::ShowMsgBox() {
+    m_dialog->show();
+}

@@ -1,0 +1,156 @@
+// Version decision, and control of the client.
+#include "ui-client/launcher/mac/mac-service.h"
+
+#include <signal.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QProcess>
+#include <QStringList>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+
+#include "config.h"
+#include "file/file-op.h"
+#include "log.h"
+#include "platform/desktop/open-application.h"
+
+namespace {
+
+constexpr int kTimeout = 10000;
+constexpr int kProbes = 5;
+constexpr unsigned kPause = 1;  // seconds
+constexpr char kExecutable[] = "Contents/MacOS/quillmere-ui";
+constexpr char kLsregister[] =
+    "/System/Library/Frameworks/CoreServices.framework/Frameworks/LaunchServices.framework/Support/"
+    "lsregister";
+const ustring kComponent("service_debug");
+
+int VersionNumber(const ustring& text) {
+    return text.size() == 0 ? 0 : std::atoi(text.c_str());
+}
+
+// kill(2) takes 0 and negative numbers for whole groups, and 1 is the system's first process.
+bool MayBeClient(long pid) {
+    return pid > 1 && pid != getpid() && static_cast<pid_t>(pid) == pid;
+}
+
+bool IsGone(pid_t pid) {
+    return kill(pid, 0) != 0 && errno == ESRCH;
+}
+
+}  // namespace
+
+MacService::MacService() {
+    timeout = kTimeout;
+    user_app_path = GetUserQuillmereAppInstallPath();
+}
+
+MacService::~MacService() {}
+
+MacService* MacService::GetInstace() {
+    static MacService serv;
+    return &serv;
+}
+
+void MacService::LoadSourceVerInfo() {
+    Service::LoadSourceVersion();
+}
+
+void MacService::LoadTargetVerInfo() {
+    Service::LoadTargetVersion();
+}
+
+void MacService::PreUpgrade() {
+    LoadTargetVerInfo();
+    LoadSourceVerInfo();
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
+                   "[DEBUG] mac/mac-service(%d): Source version: ('%s', '%s')\n", __LINE__,
+                   source_version.build_version.c_str(),
+                   source_version.icon_overlay_version.c_str());
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
+                   "[DEBUG] mac/mac-service(%d): Target version: ('%s', '%s')\n", __LINE__,
+                   target_version.build_version.c_str(),
+                   target_version.icon_overlay_version.c_str());
+}
+
+bool MacService::IsNeedUpgrade() {
+    const int source = VersionNumber(source_version.build_version);
+    const int target = VersionNumber(target_version.build_version);
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
+                   "[DEBUG] mac/mac-service(%d): source version = %d, target version = %d\n",
+                   __LINE__, source, target);
+    const bool present = PerUserBinPathExist();
+    return target > source || !present;
+}
+
+bool MacService::PerUserBinPathExist() {
+    const ustring path = user_app_path + "/" + kExecutable;
+    return access(path.c_str(), F_OK) == 0;
+}
+
+int MacService::HandlePackageUpgrade() {
+    if (PerUserBinPathExist()) {
+        Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
+                       "[DEBUG] mac/mac-service(%d): local appdata exist\n", __LINE__);
+        StopService();
+    }
+    return PrepareUserEnv();
+}
+
+void MacService::StopService() {
+    const ustring path = GetUserQuillmereInstallPath() + "/ui.pid";
+    if (!IsFileExist(path, false)) {
+        Logger::LogMsg(
+            Logger::LEVEL_DEBUG, kComponent,
+            "[DEBUG] mac/mac-service(%d): pid file '%s' does not exist, no need to terminate\n",
+            __LINE__, path.c_str());
+        return;
+    }
+    Config file;
+    if (file.read(path) < 0) {
+        Logger::LogMsg(Logger::LEVEL_NOTE, kComponent,
+                       "[NOTE] mac/mac-service(%d): Failed to read pid file '%s', not exist ?\n",
+                       __LINE__, path.c_str());
+        return;
+    }
+    const long number = std::atol(file["pid"].c_str());
+    if (!MayBeClient(number)) {
+        return;
+    }
+    const pid_t pid = static_cast<pid_t>(number);
+    if (kill(pid, SIGTERM) != 0) {
+        const int error = errno;
+        if (error == ESRCH) {
+            return;
+        }
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] mac/mac-service(%d): kill: %s (%d)\n", __LINE__,
+                       std::strerror(error), error);
+    }
+    for (int probe = 0; probe < kProbes; ++probe) {
+        if (IsGone(pid)) {
+            return;
+        }
+        sleep(kPause);
+    }
+    kill(pid, SIGKILL);
+}
+
+int MacService::LaunchPerUserBin() {
+    const QString app = QDir::homePath() + "/.Quillmere/Quillmere.app";
+    if (QProcess::execute(kLsregister, QStringList{"-u", app}) != 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] mac/mac-service(%d): Cannot unregister bundle, %s", __LINE__,
+                       app.toUtf8().constData());
+    }
+    return OpenApplication(app, kExecutable) ? 0 : -1;
+}
+
+void MacService::PostUpgrade() {
+    if (LaunchPerUserBin() < 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] mac/mac-service(%d): Failed to launch Quillmere UI\n", __LINE__);
+    }
+}

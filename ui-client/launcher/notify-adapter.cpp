@@ -1,0 +1,15 @@
+// The bridge from code that knows no window to the window.
+#include "ui-client/launcher/notify-adapter.h"
+
+Notify_Adapter* Notify_Adapter::GetInstance() {
+    static Notify_Adapter adapter;
+    return &adapter;
+}
+
+void Notify_Adapter::UpdateProgress(int total, int current) {
+    emit sigUpdateProgress(total, current);
+}
+
+void Notify_Adapter::UpdateDialogText(QString text) {
+    emit sigUpdateDialogText(text);
+}

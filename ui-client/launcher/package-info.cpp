@@ -1,0 +1,20 @@
+// Where the parts of a package lie beside an application.
+#include "ui-client/launcher/package-info.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace {
+
+ustring ToUstring(const QString& text) {
+    return text.toUtf8().constData();
+}
+
+}  // namespace
+
+PackageInfo::PackageInfo()
+    : image_dir(ToUstring(QCoreApplication::applicationDirPath() + "/images")),
+      log_dir(ToUstring(QDir::homePath() + "/.Quillmere_log")),
+      debug_file(ToUstring(QCoreApplication::applicationDirPath() + "/log/launcher.debug")),
+      package_file(ToUstring(QCoreApplication::applicationDirPath() + "/package/quillmere.qpk")),
+      conf_dir(ToUstring(QCoreApplication::applicationDirPath() + "/conf")) {}

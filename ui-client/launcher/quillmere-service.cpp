@@ -1,0 +1,259 @@
+// Install layout, version records, and the transaction that replaces the per-user copy.
+#include "ui-client/launcher/quillmere-service.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QSettings>
+#include <cstdio>
+
+#include "file/file-op.h"
+#include "log.h"
+#include "ui-client/launcher/extractor.h"
+
+namespace {
+
+constexpr int kBackups = 10;
+const ustring kComponent("service_debug");
+
+ustring ToUstring(const QString& text) {
+    return text.toUtf8().constData();
+}
+
+QString ToQString(const ustring& text) {
+    return QString::fromUtf8(text.c_str());
+}
+
+ustring GetAppBackupDir(const ustring& app, int index) {
+    if (index == 0) {
+        return app + "_tmp";
+    }
+    char postfix[8];
+    if (std::snprintf(postfix, sizeof postfix, "%d", index) < 0) {
+        Logger::LogMsg(
+            Logger::LEVEL_ERROR, kComponent,
+            "[ERROR] quillmere-service(%d): snprintf failed (continuing without postfix)",
+            __LINE__);
+        return app + "_tmp";
+    }
+    return app + "_tmp" + postfix;
+}
+
+void LoadKey(const QSettings& info, const char* key, ustring& field) {
+    if (info.contains(key)) {
+        field = ToUstring(info.value(key, QVariant()).toString());
+    }
+}
+
+void LoadVersion(const ustring& path, VerInfo& version) {
+    QSettings info(ToQString(path), QSettings::IniFormat, nullptr);
+    info.beginGroup("Version");
+    LoadKey(info, "major_version", version.major_version);
+    LoadKey(info, "minor_version", version.minor_version);
+    LoadKey(info, "build_version", version.build_version);
+    LoadKey(info, "icon_overlay_version", version.icon_overlay_version);
+}
+
+// Closes the handle that it is given.
+class DirCloser {
+  public:
+    explicit DirCloser(DIR_HANDLE& handle) : handle_(handle) {}
+    ~DirCloser() { FSCloseDir(handle_); }
+    DirCloser(const DirCloser&) = delete;
+    DirCloser& operator=(const DirCloser&) = delete;
+
+  private:
+    DIR_HANDLE& handle_;
+};
+
+}  // namespace
+
+Service::Service() {}
+
+Service::~Service() {}
+
+void Service::SetTimeout(int value) {
+    timeout = value;
+}
+
+ustring Service::GetUserInstallPath() {
+    return ToUstring(QDir::homePath());
+}
+
+ustring Service::GetRootQuillmereInstallPath() {
+    return ToUstring(QDir::cleanPath(QCoreApplication::applicationDirPath() + "/" + "../.."));
+}
+
+ustring Service::GetRootQuillmereResourceInstallPath() {
+    return GetRootQuillmereInstallPath() + "/Contents/Resources";
+}
+
+ustring Service::GetUserQuillmereInstallPath() {
+    return GetUserInstallPath() + "/" + ".Quillmere";
+}
+
+ustring Service::GetUserQuillmereAppInstallPath() {
+    return GetUserQuillmereInstallPath() + "/" + "Quillmere.app";
+}
+
+ustring Service::GetUserQuillmereDataInstallPath() {
+    return GetUserQuillmereInstallPath() + "/" + "data";
+}
+
+void Service::LoadSourceVersion() {
+    const ustring path = GetUserQuillmereAppInstallPath() + "/Contents/Resources" + "/" + "INFO";
+    if (!IsFileExist(path, false)) {
+        Logger::LogMsg(Logger::LEVEL_INFO, kComponent,
+                       "[INFO] quillmere-service(%d): source does not exist\n", __LINE__);
+        return;
+    }
+    LoadVersion(path, source_version);
+    Logger::LogMsg(Logger::LEVEL_INFO, kComponent,
+                   "[INFO] quillmere-service(%d): source_version = (%s, %s, %s, %s)\n", __LINE__,
+                   source_version.major_version.c_str(), source_version.minor_version.c_str(),
+                   source_version.build_version.c_str(),
+                   source_version.icon_overlay_version.c_str());
+}
+
+void Service::LoadTargetVersion() {
+    LoadVersion(GetRootQuillmereResourceInstallPath() + "/" + "INFO", target_version);
+    Logger::LogMsg(Logger::LEVEL_INFO, kComponent,
+                   "[INFO] quillmere-service(%d): target_version = (%s, %s, %s, %s)\n", __LINE__,
+                   target_version.major_version.c_str(), target_version.minor_version.c_str(),
+                   target_version.build_version.c_str(),
+                   target_version.icon_overlay_version.c_str());
+}
+
+// Moves `app` to the first backup name that takes it. Result: 0, with the name and its index; -1.
+int Service::BackUp(const ustring& app, ustring& backup, int& index) {
+    for (index = 0; index < kBackups; ++index) {
+        backup = GetAppBackupDir(app, index);
+        if (FSRename(app, backup, false) == 0) {
+            return 0;
+        }
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] quillmere-service(%d): failed to backup app from '%s' -> '%s'\n",
+                       __LINE__, app.c_str(), backup.c_str());
+    }
+    Logger::LogMsg(
+        Logger::LEVEL_ERROR, kComponent,
+        "[ERROR] quillmere-service(%d): failed to backup app from '%s' -> '%s' at max retries, "
+        "exiting\n",
+        __LINE__, app.c_str(), backup.c_str());
+    return -1;
+}
+
+int Service::PrepareUserEnv() {
+    const ustring app = user_app_path;
+    ustring backup;
+    int index = 0;
+    if (IsFileExist(app, false) && BackUp(app, backup, index) != 0) {
+        return -1;
+    }
+    if (ExtractPackage() == 0) {
+        Logger::LogMsg(
+            Logger::LEVEL_INFO, kComponent,
+            "[INFO] quillmere-service(%d): user installation is ready, removing backup app\n",
+            __LINE__);
+        for (int k = 0; k <= index; ++k) {
+            FSRemove(GetAppBackupDir(app, k), false);
+        }
+        return 0;
+    }
+    if (backup.empty()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] quillmere-service(%d): Failed to extract package, and no old "
+                       "installation to rollback\n",
+                       __LINE__);
+        return -1;
+    }
+    Logger::LogMsg(
+        Logger::LEVEL_ERROR, kComponent,
+        "[ERROR] quillmere-service(%d): Failed to extract package, rollback to old installation\n",
+        __LINE__);
+    FSRemove(app, false);
+    FSRename(backup, app, false);
+    return -1;
+}
+
+int Service::ExtractPackage() {
+    const ustring package = GetRootQuillmereResourceInstallPath() + "/package/quillmere.qpk";
+    const ustring destination = GetUserQuillmereAppInstallPath();
+    if (FSMKDir(destination, true) < 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] quillmere-service(%d): failed to create folder: '%s'\n", __LINE__,
+                       destination.c_str());
+        return -1;
+    }
+    Logger::LogMsg(Logger::LEVEL_INFO, kComponent,
+                   "[INFO] quillmere-service(%d): extract package: '%s' -> '%s'\n", __LINE__,
+                   package.c_str(), destination.c_str());
+    Extractor extractor;
+    extractor.m_source = package;
+    extractor.m_dest = destination;
+    return extractor.Extract();
+}
+
+void Service::RemoveAgedFolders() {
+    const ustring path = GetUserQuillmereInstallPath() + "/app";
+    Logger::LogMsg(Logger::LEVEL_INFO, kComponent,
+                   "[INFO] quillmere-service(%d): removing aged app folder %s\n", __LINE__,
+                   path.c_str());
+    FSRemove(path, false);
+}
+
+int Service::FSCopyPath(const ustring& src, const ustring& dst) {
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
+                   "[DEBUG] quillmere-service(%d): copy from '%s' to '%s'\n", __LINE__, src.c_str(),
+                   dst.c_str());
+    _FILE_INFO_tag info;
+    if (FSStat(src, info, false) < 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] quillmere-service(%d): FSCopyPath: failed to stat source '%s'\n",
+                       __LINE__, src.c_str());
+        return -1;
+    }
+    if (!info.exists) {
+        Logger::LogMsg(
+            Logger::LEVEL_ERROR, kComponent,
+            "[ERROR] quillmere-service(%d): FSCopyPath: source path '%s' does not exist\n",
+            __LINE__, src.c_str());
+        return -1;
+    }
+    if (info.type != FS_TYPE_DIR) {
+        return FSCopy(src, dst, false) < 0 ? -1 : 0;
+    }
+    if (FSMKDir(dst, true) < 0) {
+        Logger::LogMsg(
+            Logger::LEVEL_ERROR, kComponent,
+            "[ERROR] quillmere-service(%d): FSCopyPath: failed to create dest folder '%s'\n",
+            __LINE__, dst.c_str());
+        return -1;
+    }
+    DIR_HANDLE handle;
+    if (FSOpenDir(src, 0, handle) < 0) {
+        Logger::LogMsg(Logger::LEVEL_WARNING, kComponent,
+                       "[WARNING] quillmere-service(%d): FSCopyPath: failed to create handle  for "
+                       "src '%s' failed\n",
+                       __LINE__, src.c_str());
+        return 0;
+    }
+    const DirCloser closer(handle);
+    DIR_ENTRY entry;
+    while (FSReadDir(handle, entry) > 0) {
+        if (entry.name == "." || entry.name == "..") {
+            continue;
+        }
+        const ustring from = src + "/" + entry.name;
+        const ustring to = dst + "/" + entry.name;
+        const int copied =
+            entry.type == FS_TYPE_DIR ? FSCopyPath(from, to) : FSCopy(from, to, false);
+        if (copied < 0) {
+            Logger::LogMsg(
+                Logger::LEVEL_ERROR, kComponent,
+                "[ERROR] quillmere-service(%d): FSCopyPath: failed to copy from '%s' to '%s'\n",
+                __LINE__, from.c_str(), to.c_str());
+            return -1;
+        }
+    }
+    return 0;
+}
