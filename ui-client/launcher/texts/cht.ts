@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere Drive on this computer is outdated. Please update it to version %1 or later.</source>
-        <translation>這部電腦上的 Quillmere Drive 版本過舊。請更新至版本 %1 或更新版本。</translation>
+        <translation>這部電腦上的 Quillmere Drive 版本過舊。請更新至 %1 或以上版本。</translation>
     </message>
     <message>
         <source>This computer is now linked to your NAS. Syncing starts as soon as you close the wizard.</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The folder home\Quillmere on your NAS has already been linked to this PC. We will launch the synced folder when you click Done. Or you can set up a seperate task: %1</source>
-        <translation>您 NAS 上的資料夾 home\Quillmere 已連結至這部電腦。按一下「完成」後，將會開啟同步資料夾。您也可以設定另一個工作：%1</translation>
+        <translation>您 NAS 上的資料夾 home\Quillmere 已連結至這部電腦。按一下「完成」後，將會開啟同步資料夾。您也可以設定另一個同步工作：%1</translation>
     </message>
     <message>
         <source>The port number is invalid. Enter a number from 1 to 65535.</source>
@@ -429,7 +429,7 @@
     </message>
     <message>
         <source>The version of Quillmere Drive on this computer is too old for the NAS. Version %1 or later is required.</source>
-        <translation>這部電腦上的 Quillmere Drive 版本過舊，無法搭配此 NAS 使用。需要版本 %1 或更新版本。</translation>
+        <translation>這部電腦上的 Quillmere Drive 版本過舊，無法搭配此 NAS 使用。需要 %1 或以上版本。</translation>
     </message>
     <message>
         <source>Files and folders that match the rules of the file filter will not be synced.</source>
@@ -517,7 +517,7 @@
     </message>
     <message>
         <source>The SSL certificate of this NAS differs from the one saved earlier. Continue only if you trust the new certificate.</source>
-        <translation>此 NAS 的 SSL 憑證與先前儲存的憑證不同。只有在您信任新憑證時才繼續。</translation>
+        <translation>此 NAS 的 SSL 憑證與先前儲存的憑證不同。請僅在您信任新憑證時繼續。</translation>
     </message>
     <message>
         <source>The selected folder is already synced by another cloud storage program. Please choose a different folder to avoid conflicts.</source>
@@ -573,7 +573,7 @@
     </message>
     <message>
         <source>The IP address of this computer is not allowed to access the NAS. Contact the administrator.</source>
-        <translation>這部電腦的 IP 位址不允許存取 NAS。請聯絡管理員。</translation>
+        <translation>NAS 不允許這部電腦的 IP 位址存取。請聯絡管理員。</translation>
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>Enter the names of the files that should not be synced. An asterisk (*) stands for any number of characters.</source>
-        <translation>請輸入不要同步的檔案名稱。星號 (*) 代表任意數目的字元。</translation>
+        <translation>請輸入不要同步的檔案名稱。星號（*）代表任意數目的字元。</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>Quillmere Drive Server on the NAS is too old for this computer. Version %1 or later is required.</source>
-        <translation>NAS 上的 Quillmere Drive Server 版本過舊，無法搭配這部電腦使用。需要版本 %1 或更新版本。</translation>
+        <translation>NAS 上的 Quillmere Drive Server 版本過舊，無法搭配這部電腦使用。需要 %1 或以上版本。</translation>
     </message>
     <message>
         <source>June</source>
@@ -865,7 +865,7 @@
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation>後 %1 頁</translation>
+        <translation>往後 %1 頁</translation>
     </message>
     <message>
         <source>Quillmere Drive is already running. You can find its icon in the system tray.</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>在電腦上建立 Quillmere 資料夾，並與 Orvane NAS 上的 home 資料夾保持同步。（建議個人使用）</translation>
+        <translation>在電腦上建立 Quillmere 資料夾，並與 Orvane NAS 上的 home 資料夾保持同步。（建議用於個人用途）</translation>
     </message>
     <message>
         <source>Click here to update</source>
@@ -1017,7 +1017,7 @@
     </message>
     <message>
         <source>Go back to an earlier version</source>
-        <translation>還原至較早的版本</translation>
+        <translation>還原至先前的版本</translation>
     </message>
     <message>
         <source>Upload</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>您可以指定電腦上的資料夾，與 Orvane NAS 上的共用資料夾保持同步（建議團隊協作使用）。</translation>
+        <translation>您可以指定電腦上的資料夾，與 Orvane NAS 上的共用資料夾保持同步（建議用於團隊合作）。</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1185,7 +1185,7 @@
     </message>
     <message>
         <source>Quick setup</source>
-        <translation>快速設定</translation>
+        <translation>快速設定模式</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1273,7 +1273,7 @@
     </message>
     <message>
         <source>&amp;Leave applications open (a restart will be required)</source>
-        <translation>不關閉應用程式（需要重新啟動）(&amp;L)</translation>
+        <translation>不關閉應用程式（需要重新啟動電腦）(&amp;L)</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
@@ -1477,7 +1477,7 @@
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation>前 %1 頁</translation>
+        <translation>往前 %1 頁</translation>
     </message>
     <message>
         <source>The OTP is invalid. Please check the code and try again.</source>
@@ -1489,7 +1489,7 @@
     </message>
     <message>
         <source>The selected folder is on a network drive. Changes made there by other computers may not be detected immediately.</source>
-        <translation>選取的資料夾位於網路磁碟機上。其他電腦在該處所做的變更可能無法立即偵測到。</translation>
+        <translation>選取的資料夾位於網路磁碟機上。可能無法立即偵測到其他電腦在此資料夾中所做的變更。</translation>
     </message>
     <message>
         <source>Show icon overlays on files excluded by the file filter</source>
@@ -1677,7 +1677,7 @@
     </message>
     <message>
         <source>Quillmere Drive Server on the NAS is outdated. Please ask the administrator to update it to version %1 or later.</source>
-        <translation>NAS 上的 Quillmere Drive Server 版本過舊。請聯絡管理員將其更新至版本 %1 或更新版本。</translation>
+        <translation>NAS 上的 Quillmere Drive Server 版本過舊。請聯絡管理員將其更新至 %1 或以上版本。</translation>
     </message>
     <message>
         <source>Done</source>
@@ -1777,7 +1777,7 @@
     </message>
     <message>
         <source>Advanced setup</source>
-        <translation>進階設定</translation>
+        <translation>進階設定模式</translation>
     </message>
     <message>
         <source>Custom range</source>
@@ -1889,7 +1889,7 @@
     </message>
     <message>
         <source>Upgrade available</source>
-        <translation>有可用的升級</translation>
+        <translation>有新版本可升級</translation>
     </message>
     <message>
         <source>Repair the current installation</source>

@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation>Používání nastavení...</translation>
+        <translation>Uplatňování nastavení...</translation>
     </message>
     <message>
         <source>Add</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Choose what happens when the same file has been changed on the computer and on the NAS.</source>
-        <translation>Zvolte, co se má stát, když byl stejný soubor změněn v počítači i na zařízení NAS.</translation>
+        <translation>Zvolte, co se má stát, pokud byl stejný soubor změněn v počítači i na zařízení NAS.</translation>
     </message>
     <message>
         <source>Choose another folder</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>Na této adrese je jiné zařízení NAS, než se kterým byl počítač propojen. Zkontrolujte adresu nebo počítač propojte znovu.</translation>
+        <translation>Na této adrese je jiné zařízení NAS než to, se kterým byl počítač propojen. Zkontrolujte adresu nebo počítač propojte znovu.</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -821,7 +821,7 @@
     </message>
     <message>
         <source>Connect anyway</source>
-        <translation>Přesto připojit</translation>
+        <translation>Přesto se připojit</translation>
     </message>
     <message>
         <source>The files on this computer and the files in the shared folder will be merged. If two files have the same name, the newer one is used.</source>
@@ -1309,7 +1309,7 @@
     </message>
     <message>
         <source>Unlink connection</source>
-        <translation>Zrušit propojení</translation>
+        <translation>Zrušit propojení se zařízením NAS</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1333,11 +1333,11 @@
     </message>
     <message>
         <source>Advanced settings</source>
-        <translation>Pokročilá nastavení</translation>
+        <translation>Rozšířená nastavení</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation>&amp;Tisk</translation>
+        <translation>Vy&amp;tisknout</translation>
     </message>
     <message>
         <source>February</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>You can also protect a link with a password or set an expiration date.</source>
-        <translation>Odkaz můžete také chránit heslem nebo nastavit datum vypršení jeho platnosti.</translation>
+        <translation>Odkaz můžete také chránit heslem nebo pro něj nastavit datum vypršení platnosti.</translation>
     </message>
     <message>
         <source>All your files, always at hand</source>

@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation>Klik på knappen Udfør for at afslutte installationsguiden.</translation>
+        <translation>Klik på knappen &quot;Udfør&quot; for at afslutte installationsguiden.</translation>
     </message>
     <message>
         <source>Set a start date for this link</source>
@@ -489,7 +489,7 @@
     </message>
     <message>
         <source>Authentication failed</source>
-        <translation>Godkendelse mislykkedes</translation>
+        <translation>Godkendelsen mislykkedes</translation>
     </message>
     <message>
         <source>An invalid value was entered. Please check your input and try again.</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choice.</source>
-        <translation>Klik på Fjern for at fjerne [ProductName] fra computeren. Klik på Tilbage for at gennemse dit valg.</translation>
+        <translation>Klik på &quot;Fjern&quot; for at fjerne [ProductName] fra computeren. Klik på &quot;Tilbage&quot; for at gennemse dit valg.</translation>
     </message>
     <message>
         <source>Quillmere Drive Server is not running on the NAS. Start it or contact the administrator.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>Click Install to begin installing [ProductName]. Click Back to review or change your settings. Click Cancel to exit the wizard.</source>
-        <translation>Klik på Installer for at starte installationen af [ProductName]. Klik på Tilbage for at gennemse eller ændre indstillingerne. Klik på Annuller for at afslutte guiden.</translation>
+        <translation>Klik på &quot;Installer&quot; for at starte installationen af [ProductName]. Klik på &quot;Tilbage&quot; for at gennemse eller ændre indstillingerne. Klik på &quot;Annuller&quot; for at afslutte guiden.</translation>
     </message>
     <message>
         <source>Syncing</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>Opretter en Quillmere-mappe på computeren og holder den synkroniseret med din hjemmemappe på Orvane NAS-enheden. (Anbefales til personlig brug)</translation>
+        <translation>Opretter en Quillmere-mappe på computeren og holder den synkroniseret med din hjemmemappe på din Orvane NAS. (Anbefales til personlig brug)</translation>
     </message>
     <message>
         <source>Click here to update</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Her kan du angive en mappe på computeren, som skal holdes synkroniseret med en delt mappe på Orvane NAS-enheden. (Anbefales til teamarbejde).</translation>
+        <translation>Her kan du angive en mappe på computeren, som skal holdes synkroniseret med en delt mappe på din Orvane NAS. (Anbefales til teamarbejde).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1369,7 +1369,7 @@
     </message>
     <message>
         <source>Storage full</source>
-        <translation>Lagerpladsen er fuld</translation>
+        <translation>Lageret er fuldt</translation>
     </message>
     <message>
         <source>NAS overview</source>
@@ -1409,7 +1409,7 @@
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</source>
-        <translation>Følgende programmer bruger filer, som installationsprogrammet skal opdatere. Luk dem, og klik på Prøv igen for at fortsætte.</translation>
+        <translation>Følgende programmer bruger filer, som installationsprogrammet skal opdatere. Luk dem, og klik på &quot;Prøv igen&quot; for at fortsætte.</translation>
     </message>
     <message>
         <source>&amp;Install</source>
@@ -1445,7 +1445,7 @@
     </message>
     <message>
         <source>The Setup Wizard lets you change the way [ProductName] is installed or remove it from your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>Med installationsguiden kan du ændre installationen af [ProductName] eller fjerne programmet fra computeren. Klik på Næste for at fortsætte eller på Annuller for at afslutte.</translation>
+        <translation>Med installationsguiden kan du ændre installationen af [ProductName] eller fjerne programmet fra computeren. Klik på &quot;Næste&quot; for at fortsætte eller på &quot;Annuller&quot; for at afslutte.</translation>
     </message>
     <message>
         <source>Try syncing a file</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Klik på Reparer for at rette manglende eller beskadigede filer, genveje og poster i registreringsdatabasen. Klik på Tilbage for at gennemse dit valg.</translation>
+        <translation>Klik på &quot;Reparer&quot; for at rette manglende eller beskadigede filer, genveje og poster i registreringsdatabasen. Klik på &quot;Tilbage&quot; for at gennemse dit valg.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>Installationsguiden installerer [ProductName] på computeren. Klik på Næste for at fortsætte eller på Annuller for at afslutte.</translation>
+        <translation>Installationsguiden installerer [ProductName] på computeren. Klik på &quot;Næste&quot; for at fortsætte eller på &quot;Annuller&quot; for at afslutte.</translation>
     </message>
     <message>
         <source>Sync tasks</source>

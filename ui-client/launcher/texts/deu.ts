@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>The administrator requires two-factor verification for your account. Sign in to the NAS in a web browser and set it up first.</source>
-        <translation>Der Administrator verlangt für Ihr Konto die Zwei-Faktor-Verifizierung. Melden Sie sich in einem Webbrowser am NAS an und richten Sie sie zuerst ein.</translation>
+        <translation>Der Administrator verlangt für Ihr Konto die Zwei-Faktor-Verifizierung. Melden Sie sich zuerst in einem Webbrowser am NAS an und richten Sie die Verifizierung dort ein.</translation>
     </message>
     <message>
         <source>The sync direction of this folder does not match the permissions on the NAS. Please change the sync direction.</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Quillmere Drive Server is not running on the NAS. Start it or contact the administrator.</source>
-        <translation>Quillmere Drive Server wird auf dem NAS nicht ausgeführt. Starten Sie es oder wenden Sie sich an den Administrator.</translation>
+        <translation>Quillmere Drive Server wird auf dem NAS nicht ausgeführt. Starten Sie die Anwendung oder wenden Sie sich an den Administrator.</translation>
     </message>
     <message>
         <source>Open Quillmere Drive</source>
@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>Are you sure you want to delete this link? People who have it will no longer be able to open the file.</source>
-        <translation>Möchten Sie diesen Link wirklich löschen? Personen, die ihn haben, können die Datei dann nicht mehr öffnen.</translation>
+        <translation>Möchten Sie diesen Link wirklich löschen? Wer den Link hat, kann die Datei dann nicht mehr öffnen.</translation>
     </message>
     <message>
         <source>Change folder</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>A newer version of Quillmere Drive is already installed. Setup will now close.</source>
-        <translation>Eine neuere Version von Quillmere Drive ist bereits installiert. Setup wird jetzt geschlossen.</translation>
+        <translation>Eine neuere Version von Quillmere Drive ist bereits installiert. Setup wird jetzt beendet.</translation>
     </message>
     <message>
         <source>The SSL certificate of the NAS has changed. Confirm the new certificate before you select a folder.</source>
@@ -1309,7 +1309,7 @@
     </message>
     <message>
         <source>Unlink connection</source>
-        <translation>Verknüpfung der Verbindung aufheben</translation>
+        <translation>Verknüpfung mit NAS aufheben</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1469,7 +1469,7 @@
     </message>
     <message>
         <source>Your Quillmere folder is ready. Drop files into it and they will be synced with your NAS.</source>
-        <translation>Ihr Quillmere-Ordner ist bereit. Legen Sie Dateien darin ab und sie werden mit Ihrem NAS synchronisiert.</translation>
+        <translation>Ihr Quillmere-Ordner ist bereit. Dateien, die Sie darin ablegen, werden mit Ihrem NAS synchronisiert.</translation>
     </message>
     <message>
         <source>There is no folder that can be synced.</source>
@@ -1677,7 +1677,7 @@
     </message>
     <message>
         <source>Quillmere Drive Server on the NAS is outdated. Please ask the administrator to update it to version %1 or later.</source>
-        <translation>Quillmere Drive Server auf dem NAS ist veraltet. Bitten Sie den Administrator, es auf Version %1 oder höher zu aktualisieren.</translation>
+        <translation>Quillmere Drive Server auf dem NAS ist veraltet. Bitten Sie den Administrator, die Anwendung auf Version %1 oder höher zu aktualisieren.</translation>
     </message>
     <message>
         <source>Done</source>

@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation>A Telepítővarázsló bezárásához kattintson a Befejezés gombra.</translation>
+        <translation>A Telepítővarázsló bezárásához kattintson a „Befejezés” gombra.</translation>
     </message>
     <message>
         <source>Set a start date for this link</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Upgrade now</source>
-        <translation>Frissítés most</translation>
+        <translation>Verziófrissítés most</translation>
     </message>
     <message>
         <source>Computer name</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>This computer is now linked to your NAS. Syncing starts as soon as you close the wizard.</source>
-        <translation>A számítógép össze van kapcsolva a NAS eszközzel. A szinkronizálás a varázsló bezárásakor azonnal elindul.</translation>
+        <translation>A számítógép most már össze van kapcsolva a NAS eszközzel. A szinkronizálás a varázsló bezárásakor azonnal elindul.</translation>
     </message>
     <message>
         <source>Enable sync for this shared folder</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The folder home\Quillmere on your NAS has already been linked to this PC. We will launch the synced folder when you click Done. Or you can set up a seperate task: %1</source>
-        <translation>A NAS eszközön lévő home\Quillmere mappa már össze van kapcsolva ezzel a számítógéppel. Ha a Kész gombra kattint, megnyílik a szinkronizált mappa. Beállíthat külön feladatot is: %1</translation>
+        <translation>A NAS eszközön lévő home\Quillmere mappa már össze van kapcsolva ezzel a számítógéppel. Ha a „Kész” gombra kattint, megnyílik a szinkronizált mappa. Beállíthat külön feladatot is: %1</translation>
     </message>
     <message>
         <source>The port number is invalid. Enter a number from 1 to 65535.</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choice.</source>
-        <translation>A [ProductName] eltávolításához kattintson az Eltávolítás gombra. A választás áttekintéséhez kattintson a Vissza gombra.</translation>
+        <translation>A [ProductName] eltávolításához kattintson az „Eltávolítás” gombra. A választás áttekintéséhez kattintson a „Vissza” gombra.</translation>
     </message>
     <message>
         <source>Quillmere Drive Server is not running on the NAS. Start it or contact the administrator.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>Click Install to begin installing [ProductName]. Click Back to review or change your settings. Click Cancel to exit the wizard.</source>
-        <translation>A [ProductName] telepítésének megkezdéséhez kattintson a Telepítés gombra. A beállítások áttekintéséhez vagy módosításához kattintson a Vissza gombra. A varázsló bezárásához kattintson a Mégse gombra.</translation>
+        <translation>A [ProductName] telepítésének megkezdéséhez kattintson a „Telepítés” gombra. A beállítások áttekintéséhez vagy módosításához kattintson a „Vissza” gombra. A varázsló bezárásához kattintson a „Mégse” gombra.</translation>
     </message>
     <message>
         <source>Syncing</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Installing [ProductName]</source>
-        <translation>[DlgTitleFont]A [ProductName] telepítése</translation>
+        <translation>[DlgTitleFont]A [ProductName] telepítése folyamatban</translation>
     </message>
     <message>
         <source>Enter the names of the files that should not be synced. An asterisk (*) stands for any number of characters.</source>
@@ -645,7 +645,7 @@
     </message>
     <message>
         <source>NAS changed</source>
-        <translation>Megváltozott NAS</translation>
+        <translation>A NAS megváltozott</translation>
     </message>
     <message>
         <source>Back</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>The files on this computer and the files in the shared folder will be merged. If two files have the same name, the newer one is used.</source>
-        <translation>A számítógépen és a megosztott mappában lévő fájlok egyesítve lesznek. Ha két fájl neve megegyezik, az újabb lesz felhasználva.</translation>
+        <translation>A számítógépen és a megosztott mappában lévő fájlokat a rendszer egyesíti. Ha két fájl neve megegyezik, az újabb marad meg.</translation>
     </message>
     <message>
         <source>Start Quillmere Drive automatically when I sign in</source>
@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>Are you sure you want to delete this link? People who have it will no longer be able to open the file.</source>
-        <translation>Biztosan törli ezt a hivatkozást? Akiknek megvan, azok a továbbiakban nem tudják megnyitni a fájlt.</translation>
+        <translation>Biztosan törli ezt a hivatkozást? Akik megkapták, a továbbiakban nem tudják megnyitni a fájlt.</translation>
     </message>
     <message>
         <source>Change folder</source>
@@ -1409,7 +1409,7 @@
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</source>
-        <translation>A következő alkalmazások olyan fájlokat használnak, amelyeket a telepítőnek frissítenie kell. Zárja be őket, majd a folytatáshoz kattintson az Újra gombra.</translation>
+        <translation>A következő alkalmazások olyan fájlokat használnak, amelyeket a telepítőnek frissítenie kell. Zárja be őket, majd a folytatáshoz kattintson az „Újra” gombra.</translation>
     </message>
     <message>
         <source>&amp;Install</source>
@@ -1445,7 +1445,7 @@
     </message>
     <message>
         <source>The Setup Wizard lets you change the way [ProductName] is installed or remove it from your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>A Telepítővarázsló segítségével módosíthatja a [ProductName] telepítését, vagy eltávolíthatja az alkalmazást a számítógépről. A folytatáshoz kattintson a Tovább, a kilépéshez a Mégse gombra.</translation>
+        <translation>A Telepítővarázsló segítségével módosíthatja a [ProductName] telepítését, vagy eltávolíthatja az alkalmazást a számítógépről. A folytatáshoz kattintson a „Tovább”, a kilépéshez a „Mégse” gombra.</translation>
     </message>
     <message>
         <source>Try syncing a file</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>Érvénytelen OTP-kód. Ellenőrizze a kódot, és próbálkozzon újra.</translation>
+        <translation>Érvénytelen ellenőrző kód. Ellenőrizze a kódot, és próbálkozzon újra.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1569,11 +1569,11 @@
     </message>
     <message>
         <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>A hiányzó vagy sérült fájlok, parancsikonok és beállításjegyzék-bejegyzések javításához kattintson a Javítás gombra. A választás áttekintéséhez kattintson a Vissza gombra.</translation>
+        <translation>A hiányzó vagy sérült fájlok, parancsikonok és beállításjegyzék-bejegyzések javításához kattintson a „Javítás” gombra. A választás áttekintéséhez kattintson a „Vissza” gombra.</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation>A rendszer alapértelmezése</translation>
+        <translation>A rendszer alapértelmezett nyelve</translation>
     </message>
     <message>
         <source>Do not show this message again</source>
@@ -1585,7 +1585,7 @@
     </message>
     <message>
         <source>Number of times the link can be opened</source>
-        <translation>A hivatkozás megnyitásainak száma</translation>
+        <translation>A megnyitások engedélyezett száma</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>Enter the OTP</source>
-        <translation>Adja meg az OTP-kódot</translation>
+        <translation>Adja meg az ellenőrző kódot</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1817,7 +1817,7 @@
     </message>
     <message>
         <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>Fiókját kétfaktoros hitelesítés védi. A folytatáshoz adja meg az OTP-kódot.</translation>
+        <translation>Fiókját kétfaktoros hitelesítés védi. A folytatáshoz adja meg az ellenőrző kódot.</translation>
     </message>
     <message>
         <source>Edit file filter</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>A Telepítővarázsló telepíti a [ProductName] alkalmazást a számítógépre. A folytatáshoz kattintson a Tovább, a kilépéshez a Mégse gombra.</translation>
+        <translation>A Telepítővarázsló telepíti a [ProductName] alkalmazást a számítógépre. A folytatáshoz kattintson a „Tovább”, a kilépéshez a „Mégse” gombra.</translation>
     </message>
     <message>
         <source>Sync tasks</source>

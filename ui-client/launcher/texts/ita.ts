@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>Just now</source>
-        <translation>Adesso</translation>
+        <translation>Poco fa</translation>
     </message>
     <message>
         <source>This computer is already linked to the same NAS. Edit the existing connection instead.</source>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>%1 items</source>
-        <translation>%1 elementi</translation>
+        <translation>Elementi: %1</translation>
     </message>
     <message>
         <source>Pause connection</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>Open containing folder</source>
-        <translation>Apri cartella contenitore</translation>
+        <translation>Apri percorso file</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be selected separately.</source>
@@ -1441,7 +1441,7 @@
     </message>
     <message>
         <source>You can let Setup close the applications listed below and try to restart them afterward.</source>
-        <translation>Il programma di installazione può chiudere le applicazioni elencate di seguito e tentare di riavviarle in seguito.</translation>
+        <translation>Il programma di installazione può chiudere le applicazioni elencate di seguito e poi tentare di riavviarle.</translation>
     </message>
     <message>
         <source>The Setup Wizard lets you change the way [ProductName] is installed or remove it from your computer. Click Next to continue or Cancel to exit.</source>
@@ -1473,7 +1473,7 @@
     </message>
     <message>
         <source>There is no folder that can be synced.</source>
-        <translation>Nessuna cartella può essere sincronizzata.</translation>
+        <translation>Nessuna cartella disponibile per la sincronizzazione.</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>Il codice OTP non è valido. Controllare il codice e riprovare.</translation>
+        <translation>Il codice di verifica non è valido. Controllare il codice e riprovare.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1737,11 +1737,11 @@
     </message>
     <message>
         <source>Quillmere Drive keeps the folders on your computers in sync with your Orvane NAS.</source>
-        <translation>Quillmere Drive mantiene sincronizzate con il NAS Orvane le cartelle dei computer in uso.</translation>
+        <translation>Quillmere Drive mantiene le cartelle dei computer sincronizzate con il NAS Orvane.</translation>
     </message>
     <message>
         <source>Enter the OTP</source>
-        <translation>Immettere il codice OTP</translation>
+        <translation>Immettere il codice di verifica</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1817,7 +1817,7 @@
     </message>
     <message>
         <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>L&apos;account è protetto dalla verifica a due fattori. Immettere il codice OTP per continuare.</translation>
+        <translation>L&apos;account è protetto dalla verifica a due fattori. Immettere il codice di verifica per continuare.</translation>
     </message>
     <message>
         <source>Edit file filter</source>

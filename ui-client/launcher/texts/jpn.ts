@@ -645,7 +645,7 @@
     </message>
     <message>
         <source>NAS changed</source>
-        <translation>NASの変更</translation>
+        <translation>NASが変更されました</translation>
     </message>
     <message>
         <source>Back</source>
@@ -1013,7 +1013,7 @@
     </message>
     <message>
         <source>One-way download</source>
-        <translation>一方向のダウンロード</translation>
+        <translation>一方向ダウンロード</translation>
     </message>
     <message>
         <source>Go back to an earlier version</source>
@@ -1573,7 +1573,7 @@
     </message>
     <message>
         <source>System default</source>
-        <translation>システムの既定値</translation>
+        <translation>システムの既定</translation>
     </message>
     <message>
         <source>Do not show this message again</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Custom range</source>
-        <translation>範囲を指定</translation>
+        <translation>期間を指定</translation>
     </message>
     <message>
         <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
@@ -1889,7 +1889,7 @@
     </message>
     <message>
         <source>Upgrade available</source>
-        <translation>アップグレードがあります</translation>
+        <translation>アップグレードを利用できます</translation>
     </message>
     <message>
         <source>Repair the current installation</source>

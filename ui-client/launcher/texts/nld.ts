@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation>Klik op de knop Voltooien om de Installatiewizard af te sluiten.</translation>
+        <translation>Klik op de knop &quot;Voltooien&quot; om de Installatiewizard af te sluiten.</translation>
     </message>
     <message>
         <source>Set a start date for this link</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>The Setup Wizard for [ProductName] stopped early because of an error. Your system has not been changed. To install the program later, run Setup again.</source>
-        <translation>De Installatiewizard voor [ProductName] is voortijdig gestopt vanwege een fout. Uw systeem is niet gewijzigd. Als u het programma later wilt installeren, voert u het installatieprogramma opnieuw uit.</translation>
+        <translation>De Installatiewizard van [ProductName] is voortijdig gestopt vanwege een fout. Uw systeem is niet gewijzigd. Als u het programma later wilt installeren, voert u het installatieprogramma opnieuw uit.</translation>
     </message>
     <message>
         <source>ID</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>Download complete</source>
-        <translation>Downloaden voltooid</translation>
+        <translation>Download voltooid</translation>
     </message>
     <message>
         <source>Resume syncing this folder</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The folder home\Quillmere on your NAS has already been linked to this PC. We will launch the synced folder when you click Done. Or you can set up a seperate task: %1</source>
-        <translation>De map home\Quillmere op uw NAS is al gekoppeld aan deze pc. De gesynchroniseerde map wordt geopend wanneer u op Gereed klikt. U kunt ook een aparte taak instellen: %1</translation>
+        <translation>De map home\Quillmere op uw NAS is al gekoppeld aan deze pc. De gesynchroniseerde map wordt geopend wanneer u op &quot;Gereed&quot; klikt. U kunt ook een aparte taak instellen: %1</translation>
     </message>
     <message>
         <source>The port number is invalid. Enter a number from 1 to 65535.</source>
@@ -449,7 +449,7 @@
     </message>
     <message>
         <source>Save a file and it is synced</source>
-        <translation>Sla een bestand op en het is gesynchroniseerd</translation>
+        <translation>Sla een bestand op en het wordt gesynchroniseerd</translation>
     </message>
     <message>
         <source>Files that could not be synced</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>The administrator requires two-factor verification for your account. Sign in to the NAS in a web browser and set it up first.</source>
-        <translation>De beheerder vereist tweefactorauthenticatie voor uw account. Meld u in een webbrowser aan bij de NAS en stel dit eerst in.</translation>
+        <translation>De beheerder vereist tweefactorauthenticatie voor uw account. Meld u eerst in een webbrowser aan bij de NAS om dit in te stellen.</translation>
     </message>
     <message>
         <source>The sync direction of this folder does not match the permissions on the NAS. Please change the sync direction.</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choice.</source>
-        <translation>Klik op Verwijderen om [ProductName] van uw computer te verwijderen. Klik op Vorige om uw keuze te controleren.</translation>
+        <translation>Klik op &quot;Verwijderen&quot; om [ProductName] van uw computer te verwijderen. Klik op &quot;Vorige&quot; om uw keuze te controleren.</translation>
     </message>
     <message>
         <source>Quillmere Drive Server is not running on the NAS. Start it or contact the administrator.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>Click Install to begin installing [ProductName]. Click Back to review or change your settings. Click Cancel to exit the wizard.</source>
-        <translation>Klik op Installeren om de installatie van [ProductName] te starten. Klik op Vorige om uw instellingen te controleren of te wijzigen. Klik op Annuleren om de wizard af te sluiten.</translation>
+        <translation>Klik op &quot;Installeren&quot; om de installatie van [ProductName] te starten. Klik op &quot;Vorige&quot; om uw instellingen te controleren of te wijzigen. Klik op &quot;Annuleren&quot; om de wizard af te sluiten.</translation>
     </message>
     <message>
         <source>Syncing</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>Enter the names of the files that should not be synced. An asterisk (*) stands for any number of characters.</source>
-        <translation>Voer de namen in van de bestanden die niet moeten worden gesynchroniseerd. Een sterretje (*) staat voor een willekeurig aantal tekens.</translation>
+        <translation>Voer de namen in van de bestanden die u niet wilt synchroniseren. Een sterretje (*) staat voor een willekeurig aantal tekens.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1025,7 +1025,7 @@
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
-        <translation>Wijzigt de set onderdelen van [ProductName] die zijn geïnstalleerd.</translation>
+        <translation>Wijzigt welke onderdelen van [ProductName] zijn geïnstalleerd.</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -1409,7 +1409,7 @@
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</source>
-        <translation>De volgende toepassingen gebruiken bestanden die het installatieprogramma moet bijwerken. Sluit deze toepassingen en klik op Opnieuw proberen om door te gaan.</translation>
+        <translation>De volgende toepassingen gebruiken bestanden die het installatieprogramma moet bijwerken. Sluit deze toepassingen en klik op &quot;Opnieuw proberen&quot; om door te gaan.</translation>
     </message>
     <message>
         <source>&amp;Install</source>
@@ -1441,11 +1441,11 @@
     </message>
     <message>
         <source>You can let Setup close the applications listed below and try to restart them afterward.</source>
-        <translation>U kunt het installatieprogramma de onderstaande toepassingen laten sluiten en deze daarna opnieuw laten proberen te starten.</translation>
+        <translation>Het installatieprogramma kan de onderstaande toepassingen sluiten en daarna proberen ze opnieuw te starten.</translation>
     </message>
     <message>
         <source>The Setup Wizard lets you change the way [ProductName] is installed or remove it from your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>Met de Installatiewizard kunt u de installatie van [ProductName] wijzigen of het programma van uw computer verwijderen. Klik op Volgende om door te gaan of op Annuleren om af te sluiten.</translation>
+        <translation>Met de Installatiewizard kunt u de installatie van [ProductName] wijzigen of het programma van uw computer verwijderen. Klik op &quot;Volgende&quot; om door te gaan of op &quot;Annuleren&quot; om af te sluiten.</translation>
     </message>
     <message>
         <source>Try syncing a file</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>De OTP-code is ongeldig. Controleer de code en probeer het opnieuw.</translation>
+        <translation>De verificatiecode is ongeldig. Controleer de code en probeer het opnieuw.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Klik op Herstellen om ontbrekende of beschadigde bestanden, snelkoppelingen en registervermeldingen te herstellen. Klik op Vorige om uw keuze te controleren.</translation>
+        <translation>Klik op &quot;Herstellen&quot; om ontbrekende of beschadigde bestanden, snelkoppelingen en registervermeldingen te repareren. Klik op &quot;Vorige&quot; om uw keuze te controleren.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>Enter the OTP</source>
-        <translation>Voer de OTP-code in</translation>
+        <translation>Voer de verificatiecode in</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1817,7 +1817,7 @@
     </message>
     <message>
         <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>Uw account is beveiligd met tweefactorauthenticatie. Voer de OTP-code in om door te gaan.</translation>
+        <translation>Uw account is beveiligd met tweefactorauthenticatie. Voer de verificatiecode in om door te gaan.</translation>
     </message>
     <message>
         <source>Edit file filter</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>De Installatiewizard installeert [ProductName] op uw computer. Klik op Volgende om door te gaan of op Annuleren om af te sluiten.</translation>
+        <translation>De Installatiewizard installeert [ProductName] op uw computer. Klik op &quot;Volgende&quot; om door te gaan of op &quot;Annuleren&quot; om af te sluiten.</translation>
     </message>
     <message>
         <source>Sync tasks</source>
@@ -1881,7 +1881,7 @@
     </message>
     <message>
         <source>&amp;Close the applications and try to restart them</source>
-        <translation>De toepassingen &amp;sluiten en opnieuw proberen te starten</translation>
+        <translation>De toepassingen &amp;sluiten en proberen ze opnieuw te starten</translation>
     </message>
     <message>
         <source>Please wait. The requested changes are being made.</source>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Exit</source>
-        <translation>Zakończ</translation>
+        <translation>Wyjdź</translation>
     </message>
     <message>
         <source>Share link</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation>Kliknij przycisk Zakończ, aby zamknąć Kreator instalacji.</translation>
+        <translation>Kliknij przycisk „Zakończ”, aby zamknąć Kreator instalacji.</translation>
     </message>
     <message>
         <source>Set a start date for this link</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choice.</source>
-        <translation>Kliknij przycisk Usuń, aby usunąć aplikację [ProductName] z komputera. Kliknij przycisk Wstecz, aby sprawdzić swój wybór.</translation>
+        <translation>Kliknij przycisk „Usuń”, aby usunąć aplikację [ProductName] z komputera. Kliknij przycisk „Wstecz”, aby sprawdzić swój wybór.</translation>
     </message>
     <message>
         <source>Quillmere Drive Server is not running on the NAS. Start it or contact the administrator.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>Click Install to begin installing [ProductName]. Click Back to review or change your settings. Click Cancel to exit the wizard.</source>
-        <translation>Kliknij przycisk Zainstaluj, aby rozpocząć instalację aplikacji [ProductName]. Kliknij przycisk Wstecz, aby sprawdzić lub zmienić ustawienia. Kliknij przycisk Anuluj, aby zamknąć kreator.</translation>
+        <translation>Kliknij przycisk „Zainstaluj”, aby rozpocząć instalację aplikacji [ProductName]. Kliknij przycisk „Wstecz”, aby sprawdzić lub zmienić ustawienia. Kliknij przycisk „Anuluj”, aby zamknąć kreator.</translation>
     </message>
     <message>
         <source>Syncing</source>
@@ -989,7 +989,7 @@
     </message>
     <message>
         <source>Choose a shared folder on your NAS that is not yet synced with this computer.</source>
-        <translation>Wybierz folder udostępniony na serwerze NAS, który nie jest jeszcze synchronizowany z tym komputerem.</translation>
+        <translation>Wybierz na serwerze NAS folder udostępniony, który nie jest jeszcze synchronizowany z tym komputerem.</translation>
     </message>
     <message>
         <source>How existing files are merged</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Możesz wskazać folder na komputerze, który będzie synchronizowany z folderem udostępnionym na serwerze NAS firmy Orvane. (Zalecane do pracy zespołowej).</translation>
+        <translation>Możesz wskazać na komputerze folder, który będzie synchronizowany z folderem udostępnionym na serwerze NAS firmy Orvane. (Zalecane do pracy zespołowej).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1309,7 +1309,7 @@
     </message>
     <message>
         <source>Unlink connection</source>
-        <translation>Usuń powiązanie połączenia</translation>
+        <translation>Usuń powiązanie z serwerem NAS</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1393,7 +1393,7 @@
     </message>
     <message>
         <source>There is not enough free space on this computer to sync this folder. Free up some space or choose another folder.</source>
-        <translation>Na tym komputerze brakuje wolnego miejsca do synchronizacji tego folderu. Zwolnij trochę miejsca lub wybierz inny folder.</translation>
+        <translation>Na tym komputerze brakuje wolnego miejsca na zsynchronizowanie tego folderu. Zwolnij trochę miejsca lub wybierz inny folder.</translation>
     </message>
     <message>
         <source>Use a black and white tray icon</source>
@@ -1409,7 +1409,7 @@
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</source>
-        <translation>Następujące aplikacje używają plików, które instalator musi zaktualizować. Zamknij je i kliknij przycisk Ponów próbę, aby kontynuować.</translation>
+        <translation>Następujące aplikacje używają plików, które instalator musi zaktualizować. Zamknij je i kliknij przycisk „Ponów próbę”, aby kontynuować.</translation>
     </message>
     <message>
         <source>&amp;Install</source>
@@ -1445,7 +1445,7 @@
     </message>
     <message>
         <source>The Setup Wizard lets you change the way [ProductName] is installed or remove it from your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>Kreator instalacji umożliwia zmianę sposobu instalacji aplikacji [ProductName] lub usunięcie jej z komputera. Kliknij przycisk Dalej, aby kontynuować, lub przycisk Anuluj, aby zakończyć.</translation>
+        <translation>Kreator instalacji umożliwia zmianę sposobu instalacji aplikacji [ProductName] lub usunięcie jej z komputera. Kliknij przycisk „Dalej”, aby kontynuować, lub przycisk „Anuluj”, aby zamknąć kreator.</translation>
     </message>
     <message>
         <source>Try syncing a file</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>You can also protect a link with a password or set an expiration date.</source>
-        <translation>Link możesz też zabezpieczyć hasłem lub ustawić jego datę ważności.</translation>
+        <translation>Możesz też zabezpieczyć link hasłem lub ustawić jego datę ważności.</translation>
     </message>
     <message>
         <source>All your files, always at hand</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Kliknij przycisk Napraw, aby naprawić uszkodzone lub przywrócić brakujące pliki, skróty i wpisy rejestru. Kliknij przycisk Wstecz, aby sprawdzić swój wybór.</translation>
+        <translation>Kliknij przycisk „Napraw”, aby naprawić uszkodzone lub przywrócić brakujące pliki, skróty i wpisy rejestru. Kliknij przycisk „Wstecz”, aby sprawdzić swój wybór.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1601,7 +1601,7 @@
     </message>
     <message>
         <source>The SSL certificate could not be verified. It may be self-signed, expired, or issued for another hostname.</source>
-        <translation>Nie można zweryfikować certyfikatu SSL. Certyfikat mógł zostać podpisany samodzielnie, wygasnąć lub zostać wystawiony dla innej nazwy hosta.</translation>
+        <translation>Nie można zweryfikować certyfikatu SSL. Może to być certyfikat z podpisem własnym, wygasły lub wystawiony dla innej nazwy hosta.</translation>
     </message>
     <message>
         <source>Please update Quillmere Drive Server on the NAS to use selective sync.</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Select the folder on this computer that you want to keep synced with your NAS.</source>
-        <translation>Wybierz folder na tym komputerze, który chcesz synchronizować z serwerem NAS.</translation>
+        <translation>Wybierz na tym komputerze folder, który chcesz synchronizować z serwerem NAS.</translation>
     </message>
     <message>
         <source>Testing the connection...</source>
@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>Select the shared folder on the NAS that you want to sync with this computer.</source>
-        <translation>Wybierz folder udostępniony na serwerze NAS, który chcesz synchronizować z tym komputerem.</translation>
+        <translation>Wybierz na serwerze NAS folder udostępniony, który chcesz synchronizować z tym komputerem.</translation>
     </message>
     <message>
         <source>This shared folder does not exist on the NAS. It may have been renamed or deleted.</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>Kreator instalacji zainstaluje aplikację [ProductName] na tym komputerze. Kliknij przycisk Dalej, aby kontynuować, lub przycisk Anuluj, aby zakończyć.</translation>
+        <translation>Kreator instalacji zainstaluje aplikację [ProductName] na tym komputerze. Kliknij przycisk „Dalej”, aby kontynuować, lub przycisk „Anuluj”, aby zamknąć kreator.</translation>
     </message>
     <message>
         <source>Sync tasks</source>

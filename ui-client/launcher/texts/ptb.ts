@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation>Clique no botão Concluir para sair do Assistente de Instalação.</translation>
+        <translation>Clique no botão &quot;Concluir&quot; para sair do Assistente de Instalação.</translation>
     </message>
     <message>
         <source>Set a start date for this link</source>
@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>Browse previous versions</source>
-        <translation>Procurar versões anteriores</translation>
+        <translation>Ver versões anteriores</translation>
     </message>
     <message>
         <source>The Setup Wizard for [ProductName] stopped early because of an error. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>The connection to the NAS was lost. Quillmere Drive will try to connect again automatically.</source>
-        <translation>A conexão com o NAS foi perdida. O Quillmere Drive tentará se conectar novamente de forma automática.</translation>
+        <translation>A conexão com o NAS foi perdida. O Quillmere Drive tentará se reconectar automaticamente.</translation>
     </message>
     <message>
         <source>Detecting file changes...</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choice.</source>
-        <translation>Clique em Remover para remover o [ProductName] do computador. Clique em Voltar para rever sua escolha.</translation>
+        <translation>Clique em &quot;Remover&quot; para remover o [ProductName] do computador. Clique em &quot;Voltar&quot; para rever sua escolha.</translation>
     </message>
     <message>
         <source>Quillmere Drive Server is not running on the NAS. Start it or contact the administrator.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>Click Install to begin installing [ProductName]. Click Back to review or change your settings. Click Cancel to exit the wizard.</source>
-        <translation>Clique em Instalar para iniciar a instalação do [ProductName]. Clique em Voltar para rever ou alterar as configurações. Clique em Cancelar para sair do assistente.</translation>
+        <translation>Clique em &quot;Instalar&quot; para iniciar a instalação do [ProductName]. Clique em &quot;Voltar&quot; para rever ou alterar as configurações. Clique em &quot;Cancelar&quot; para sair do assistente.</translation>
     </message>
     <message>
         <source>Syncing</source>
@@ -805,7 +805,7 @@
     </message>
     <message>
         <source>The connection test failed. The username or password is incorrect.</source>
-        <translation>O teste de conexão falhou. O nome de usuário ou a senha está incorreto.</translation>
+        <translation>O teste de conexão falhou. O nome de usuário ou a senha estão incorretos.</translation>
     </message>
     <message>
         <source>Re&amp;pair</source>
@@ -841,7 +841,7 @@
     </message>
     <message>
         <source>The username or password is incorrect, or the account has been disabled.</source>
-        <translation>O nome de usuário ou a senha está incorreto, ou a conta foi desativada.</translation>
+        <translation>O nome de usuário ou a senha estão incorretos, ou a conta foi desativada.</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -861,7 +861,7 @@
     </message>
     <message>
         <source>Quillmere Drive keeps earlier versions of your files. Right-click a file and select &quot;Browse previous versions&quot; to restore one of them.</source>
-        <translation>O Quillmere Drive guarda as versões anteriores dos seus arquivos. Clique com o botão direito em um arquivo e selecione &quot;Procurar versões anteriores&quot; para restaurar uma delas.</translation>
+        <translation>O Quillmere Drive guarda as versões anteriores dos seus arquivos. Clique com o botão direito em um arquivo e selecione &quot;Ver versões anteriores&quot; para restaurar uma delas.</translation>
     </message>
     <message>
         <source>Next %1 pages</source>
@@ -1409,7 +1409,7 @@
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</source>
-        <translation>Os aplicativos a seguir estão usando arquivos que a instalação precisa atualizar. Feche-os e clique em Tentar novamente para continuar.</translation>
+        <translation>Os aplicativos a seguir estão usando arquivos que a instalação precisa atualizar. Feche-os e clique em &quot;Tentar novamente&quot; para continuar.</translation>
     </message>
     <message>
         <source>&amp;Install</source>
@@ -1445,7 +1445,7 @@
     </message>
     <message>
         <source>The Setup Wizard lets you change the way [ProductName] is installed or remove it from your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>O Assistente de Instalação permite alterar a forma como o [ProductName] está instalado ou removê-lo do computador. Clique em Avançar para continuar ou em Cancelar para sair.</translation>
+        <translation>O Assistente de Instalação permite alterar a forma como o [ProductName] está instalado ou removê-lo do computador. Clique em &quot;Avançar&quot; para continuar ou em &quot;Cancelar&quot; para sair.</translation>
     </message>
     <message>
         <source>Try syncing a file</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Clique em Reparar para corrigir arquivos, atalhos e entradas do Registro ausentes ou danificados. Clique em Voltar para rever sua escolha.</translation>
+        <translation>Clique em &quot;Reparar&quot; para corrigir arquivos, atalhos e entradas do Registro ausentes ou danificados. Clique em &quot;Voltar&quot; para rever sua escolha.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1861,11 +1861,11 @@
     </message>
     <message>
         <source>Server not running</source>
-        <translation>Servidor não está em execução</translation>
+        <translation>O servidor não está em execução</translation>
     </message>
     <message>
         <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>O Assistente de Instalação instalará o [ProductName] no computador. Clique em Avançar para continuar ou em Cancelar para sair.</translation>
+        <translation>O Assistente de Instalação instalará o [ProductName] no computador. Clique em &quot;Avançar&quot; para continuar ou em &quot;Cancelar&quot; para sair.</translation>
     </message>
     <message>
         <source>Sync tasks</source>

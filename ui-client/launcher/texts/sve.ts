@@ -417,7 +417,7 @@
     </message>
     <message>
         <source>Quillmere Drive could not be initialized. Please restart your computer and try again.</source>
-        <translation>Det gick inte att initiera Quillmere Drive. Starta om datorn och försök igen.</translation>
+        <translation>Det gick inte att initialisera Quillmere Drive. Starta om datorn och försök igen.</translation>
     </message>
     <message>
         <source>Status:</source>
@@ -429,7 +429,7 @@
     </message>
     <message>
         <source>The version of Quillmere Drive on this computer is too old for the NAS. Version %1 or later is required.</source>
-        <translation>Quillmere Drive på den här datorn är för gammal för NAS-enheten. Version %1 eller senare krävs.</translation>
+        <translation>Versionen av Quillmere Drive på den här datorn är för gammal för NAS-enheten. Version %1 eller senare krävs.</translation>
     </message>
     <message>
         <source>Files and folders that match the rules of the file filter will not be synced.</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>The sync direction of this folder does not match the permissions on the NAS. Please change the sync direction.</source>
-        <translation>Mappens synkroniseringsriktning stämmer inte med behörigheterna på NAS-enheten. Ändra synkroniseringsriktningen.</translation>
+        <translation>Mappens synkroniseringsriktning stämmer inte överens med behörigheterna på NAS-enheten. Ändra synkroniseringsriktningen.</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}Welcome to the [ProductName] Setup Wizard</source>
@@ -573,7 +573,7 @@
     </message>
     <message>
         <source>The IP address of this computer is not allowed to access the NAS. Contact the administrator.</source>
-        <translation>Datorns IP-adress har inte åtkomst till NAS-enheten. Kontakta administratören.</translation>
+        <translation>Datorns IP-adress har inte behörighet att ansluta till NAS-enheten. Kontakta administratören.</translation>
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
@@ -837,7 +837,7 @@
     </message>
     <message>
         <source>Change folder</source>
-        <translation>Ändra mapp</translation>
+        <translation>Byt mapp</translation>
     </message>
     <message>
         <source>The username or password is incorrect, or the account has been disabled.</source>
@@ -865,7 +865,7 @@
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation>Nästa %1 sidor</translation>
+        <translation>Följande %1 sidor</translation>
     </message>
     <message>
         <source>Quillmere Drive is already running. You can find its icon in the system tray.</source>
@@ -1245,7 +1245,7 @@
     </message>
     <message>
         <source>Change local folder</source>
-        <translation>Ändra lokal mapp</translation>
+        <translation>Byt lokal mapp</translation>
     </message>
     <message>
         <source>Maximum file size</source>
@@ -1309,7 +1309,7 @@
     </message>
     <message>
         <source>Unlink connection</source>
-        <translation>Ta bort anslutningens länkning</translation>
+        <translation>Ta bort länkningen av anslutningen</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>Engångskoden är ogiltig. Kontrollera koden och försök igen.</translation>
+        <translation>Verifieringskoden är ogiltig. Kontrollera koden och försök igen.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1573,7 +1573,7 @@
     </message>
     <message>
         <source>System default</source>
-        <translation>Systemets standard</translation>
+        <translation>Systemstandard</translation>
     </message>
     <message>
         <source>Do not show this message again</source>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>Enter the OTP</source>
-        <translation>Ange engångskoden</translation>
+        <translation>Ange verifieringskoden</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1785,7 +1785,7 @@
     </message>
     <message>
         <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>Du har nått gränsen på %1 synkroniseringsuppgifter. Ta bort länkningen av en uppgift innan du lägger till en ny.</translation>
+        <translation>Du har nått gränsen på %1 synkroniseringsuppgifter. Ta bort länkningen av en synkroniseringsuppgift innan du lägger till en ny.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1817,7 +1817,7 @@
     </message>
     <message>
         <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>Ditt konto skyddas av tvåfaktorsautentisering. Ange engångskoden för att fortsätta.</translation>
+        <translation>Ditt konto skyddas av tvåfaktorsautentisering. Ange verifieringskoden för att fortsätta.</translation>
     </message>
     <message>
         <source>Edit file filter</source>

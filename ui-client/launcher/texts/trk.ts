@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>This shared folder has been disabled for your account. Contact the administrator of the NAS to regain access.</source>
-        <translation>Bu paylaşılan klasör hesabınız için devre dışı bırakıldı. Yeniden erişim kazanmak için NAS yöneticisine başvurun.</translation>
+        <translation>Bu paylaşılan klasör hesabınız için devre dışı bırakıldı. Yeniden erişim sağlamak için NAS yöneticisine başvurun.</translation>
     </message>
     <message>
         <source>Merge the folders</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>[DlgTitleFont]Files in use</source>
-        <translation>[DlgTitleFont]Kullanılan dosyalar</translation>
+        <translation>[DlgTitleFont]Kullanımdaki dosyalar</translation>
     </message>
     <message>
         <source>Thursday</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Quillmere Drive Server is not running on the NAS. Start it or contact the administrator.</source>
-        <translation>Quillmere Drive Server NAS cihazında çalışmıyor. Uygulamayı başlatın veya yöneticiye başvurun.</translation>
+        <translation>Quillmere Drive Server, NAS cihazında çalışmıyor. Uygulamayı başlatın veya yöneticiye başvurun.</translation>
     </message>
     <message>
         <source>Open Quillmere Drive</source>
@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>This folder is being indexed. Syncing will start when indexing is complete.</source>
-        <translation>Bu klasör için dizin oluşturuluyor. Dizin tamamlandığında eşitleme başlayacak.</translation>
+        <translation>Bu klasör için dizin oluşturuluyor. Dizin oluşturma tamamlandığında eşitleme başlayacak.</translation>
     </message>
     <message>
         <source>Disabled</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>Quillmere Drive Server on the NAS is too old for this computer. Version %1 or later is required.</source>
-        <translation>NAS cihazındaki Quillmere Drive Server bu bilgisayar için çok eski. Sürüm %1 veya daha yenisi gerekiyor.</translation>
+        <translation>NAS cihazındaki Quillmere Drive Server uygulaması bu bilgisayar için çok eski. Sürüm %1 veya daha yenisi gerekiyor.</translation>
     </message>
     <message>
         <source>June</source>
@@ -981,7 +981,7 @@
     </message>
     <message>
         <source>Select a folder on this computer and the shared folder on the NAS that it will be synced with.</source>
-        <translation>Bu bilgisayardaki bir klasörü ve bu klasörün NAS cihazında eşitleneceği paylaşılan klasörü seçin.</translation>
+        <translation>Bu bilgisayardaki bir klasörü ve NAS cihazında onunla eşitlenecek paylaşılan klasörü seçin.</translation>
     </message>
     <message>
         <source>This field cannot be left blank.</source>
@@ -1373,7 +1373,7 @@
     </message>
     <message>
         <source>NAS overview</source>
-        <translation>NAS genel bakışı</translation>
+        <translation>NAS cihazına genel bakış</translation>
     </message>
     <message>
         <source>Direct connection</source>
@@ -1469,7 +1469,7 @@
     </message>
     <message>
         <source>Your Quillmere folder is ready. Drop files into it and they will be synced with your NAS.</source>
-        <translation>Quillmere klasörünüz hazır. Dosyaları içine bırakın, NAS cihazınızla eşitlensinler.</translation>
+        <translation>Quillmere klasörünüz hazır. Dosyaları içine bırakın, NAS cihazınızla eşitlensin.</translation>
     </message>
     <message>
         <source>There is no folder that can be synced.</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>OTP geçersiz. Lütfen kodu kontrol edip yeniden deneyin.</translation>
+        <translation>OTP kodu geçersiz. Lütfen kodu kontrol edip yeniden deneyin.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>You can also protect a link with a password or set an expiration date.</source>
-        <translation>Bir bağlantıyı parolayla da koruyabilir veya bağlantıya son kullanma tarihi belirleyebilirsiniz.</translation>
+        <translation>Ayrıca bir bağlantıyı parolayla koruyabilir veya bağlantı için bir son kullanma tarihi belirleyebilirsiniz.</translation>
     </message>
     <message>
         <source>All your files, always at hand</source>
@@ -1641,7 +1641,7 @@
     </message>
     <message>
         <source>The RapidHail ID is invalid or does not exist.</source>
-        <translation>RapidHail kimliği geçersiz veya yok.</translation>
+        <translation>RapidHail kimliği geçersiz veya mevcut değil.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -1709,7 +1709,7 @@
     </message>
     <message>
         <source>Check all file attributes for changes</source>
-        <translation>Değişiklikler için tüm dosya özniteliklerini denetle</translation>
+        <translation>Tüm dosya özniteliklerindeki değişiklikleri denetle</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Change, repair, or remove the installation</source>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>Enter the OTP</source>
-        <translation>OTP girin</translation>
+        <translation>OTP kodunu girin</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1785,7 +1785,7 @@
     </message>
     <message>
         <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>En fazla %1 eşitleme görevi sınırına ulaştınız. Yeni bir eşitleme görevi eklemeden önce mevcut bir görevin bağlantısını kaldırın.</translation>
+        <translation>Eşitleme görevi üst sınırına (%1) ulaştınız. Yeni bir eşitleme görevi eklemeden önce mevcut bir görevin bağlantısını kaldırın.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1817,7 +1817,7 @@
     </message>
     <message>
         <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>Hesabınız iki faktörlü doğrulamayla korunuyor. Devam etmek için lütfen OTP girin.</translation>
+        <translation>Hesabınız iki faktörlü doğrulamayla korunuyor. Devam etmek için lütfen OTP kodunu girin.</translation>
     </message>
     <message>
         <source>Edit file filter</source>
