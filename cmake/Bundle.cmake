@@ -18,13 +18,12 @@ function(quillmere_add_bundle target)
   if(NOT arg_OUTPUT)
     set(arg_OUTPUT ${CMAKE_BINARY_DIR}/${target}.app)
   endif()
-  quillmere_qt_plugins(plugins)
   add_custom_target(${target} ALL
     COMMAND ${CMAKE_COMMAND}
       -DLAUNCHER=$<TARGET_FILE:launcher>
       -DMAKE_PACKAGE=$<TARGET_FILE:make-package>
       -DICON=${PROJECT_SOURCE_DIR}/bundle/ico_72_quillmere.png
-      -DPLUGINS=${plugins}
+      -DPLUGINS=${QUILLMERE_QT_PLUGINS}
       -DCOPY_PLUGINS=${arg_COPY_PLUGINS}
       -DCLIENT_DIR=${arg_CLIENT_DIR}
       -DBUILD_NUMBER=${arg_BUILD_NUMBER}
@@ -37,10 +36,11 @@ function(quillmere_add_bundle target)
     COMMENT "Bundle ${arg_OUTPUT}" VERBATIM)
 endfunction()
 
-# The directory that Qt's plug-ins were installed in.
-function(quillmere_qt_plugins result)
+# quillmere_qt_directory(<result> <QT_INSTALL_...>): a directory of the Qt that is built with. It is kept in the
+# cache as <result>, for the scripts too.
+function(quillmere_qt_directory result property)
   get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
-  execute_process(COMMAND ${qmake} -query QT_INSTALL_PLUGINS OUTPUT_VARIABLE plugins
+  execute_process(COMMAND ${qmake} -query ${property} OUTPUT_VARIABLE directory
                   OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-  set(${result} ${plugins} PARENT_SCOPE)
+  set(${result} ${directory} CACHE INTERNAL "Qt's ${property}")
 endfunction()

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <QDir>
+#include <QFileInfo>
 #include <QProcess>
 #include <QStringList>
 #include <cerrno>
@@ -38,6 +39,12 @@ bool MayBeClient(long pid) {
 
 bool IsGone(pid_t pid) {
     return kill(pid, 0) != 0 && errno == ESRCH;
+}
+
+// Result: the tool's exit code; negative if it cannot be run. Where there is none, no process is
+// forked to find that out: the client waits.
+int RunLsregister(const QStringList& arguments) {
+    return QFileInfo::exists(kLsregister) ? QProcess::execute(kLsregister, arguments) : -2;
 }
 
 }  // namespace
@@ -140,7 +147,7 @@ void MacService::StopService() {
 
 int MacService::LaunchPerUserBin() {
     const QString app = QDir::homePath() + "/.Quillmere/Quillmere.app";
-    if (QProcess::execute(kLsregister, QStringList{"-u", app}) != 0) {
+    if (RunLsregister(QStringList{"-u", app}) != 0) {
         Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
                        "[ERROR] mac/mac-service(%d): Cannot unregister bundle, %s", __LINE__,
                        app.toUtf8().constData());

@@ -1,0 +1,88 @@
+# What the scripts share; to be sourced. Runs from the repository's root.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+# Debian's packages for building, testing and taking pictures.
+packages=(
+  g++ cmake ninja-build pkg-config git ca-certificates
+  qtbase5-dev qttools5-dev qttools5-dev-tools libarchive-dev libicu-dev libxcb1-dev libfontconfig-dev
+  libgtest-dev python3 dosfstools mount util-linux procps
+  xvfb openbox xdotool x11-utils imagemagick fonts-liberation fonts-dejavu-core fonts-noto-cjk
+)
+
+say() { printf '\n\033[1m%s\033[0m\n' "$*"; }
+
+fail() {
+  printf 'FAILED: %s\n' "$*" >&2
+  exit 1
+}
+
+install_packages() {
+  local missing=() package
+  for package in "${packages[@]}"; do
+    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+  done
+  [ ${#missing[@]} -gt 0 ] || return 0
+  say "Installing ${missing[*]}"
+  local root=()
+  [ "$(id -u)" -eq 0 ] || root=(sudo)
+  "${root[@]}" apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive "${root[@]}" apt-get install -qq -y --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build PRESET
+build() {
+  say "Building ($1)"
+  cmake --preset "$1" >/dev/null
+  cmake --build --preset "$1"
+}
+
+# make_bundle BUILD_DIR CLIENT_DIR BUILD_NUMBER OUTPUT
+make_bundle() {
+  local plugins
+  plugins=$(sed -n 's/^QUILLMERE_QT_PLUGINS:INTERNAL=//p' "$1/CMakeCache.txt")
+  cmake -DLAUNCHER="$1/launcher" -DMAKE_PACKAGE="$1/bundle/make-package" \
+    -DICON=bundle/ico_72_quillmere.png -DPLUGINS="$plugins" -DCLIENT_DIR="$2" -DBUILD_NUMBER="$3" \
+    -DMAJOR_VERSION=1 -DMINOR_VERSION=0 -DICON_OVERLAY_VERSION=1 -DOUTPUT="$4" -P cmake/make-bundle.cmake
+}
+
+# wait_for SECONDS COMMAND...: polls until the command succeeds.
+wait_for() {
+  local end=$(($(date +%s) + $1))
+  shift
+  until "$@" >/dev/null 2>&1; do
+    [ "$(date +%s)" -lt "$end" ] || return 1
+    sleep 0.01
+  done
+}
+
+# The display of this session, or one of its own with a window manager.
+use_display() {
+  if [ -n "${DISPLAY:-}" ] && xdpyinfo >/dev/null 2>&1; then
+    return 0
+  fi
+  local number
+  number=$(mktemp)
+  Xvfb -displayfd 3 -noreset -screen 0 1024x768x24 3>"$number" >/dev/null 2>&1 &
+  display_pids="$!"
+  wait_for 20 test -s "$number" || fail "Xvfb does not start"
+  DISPLAY=":$(cat "$number")"
+  export DISPLAY
+  rm -f "$number"
+  openbox >/dev/null 2>&1 &
+  display_pids="$display_pids $!"
+  wait_for 20 xprop -root _NET_SUPPORTING_WM_CHECK || fail "no window manager"
+}
+
+leave_display() {
+  # shellcheck disable=SC2086
+  [ -z "${display_pids:-}" ] || kill $display_pids 2>/dev/null || true
+}
+
+# picture_of PID FILE: the visible window of the process, with its frame.
+picture_of() {
+  wait_for 20 xdotool search --onlyvisible --pid "$1" || return 1
+  local window
+  window=$(xdotool search --onlyvisible --pid "$1" | tail -n 1)
+  import -window "$window" -frame "$2"
+}
