@@ -88,6 +88,7 @@ class Logger {
     static void Count(int written);
     static int OpenFile(const ustring& path);
     static void CloseFile();
+    static void Replace(std::FILE* stream);
 
     static Type log_type;
     static bool log_initialized;

@@ -114,8 +114,7 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_path
         log_path = path;
         rotate_cnt = rotate;
     } else {
-        CloseFile();
-        Poke(log_fp, type == TYPE_STDOUT ? stdout : type == TYPE_STDERR ? stderr : nullptr);
+        Replace(type == TYPE_STDOUT ? stdout : type == TYPE_STDERR ? stderr : nullptr);
         log_path.clear();
     }
     Poke(log_initialized, true);
@@ -208,9 +207,9 @@ int Logger::Rotate() {
         std::rename(RotatedName(log_path, i).c_str(), RotatedName(log_path, i + 1).c_str());
     }
     std::remove(RotatedName(log_path, rotate_cnt - 1).c_str());
-    CloseFile();
     if (std::rename(log_path.c_str(), RotatedName(log_path, 0).c_str()) != 0 ||
         OpenFile(log_path) != 0) {
+        CloseFile();
         return -1;
     }
     ++*log_rotated_count_shared;
@@ -219,15 +218,14 @@ int Logger::Rotate() {
 }
 
 void Logger::ReloadLogFile() {
-    if (log_type != TYPE_FILE) {
-        return;
+    if (log_type == TYPE_FILE && OpenFile(log_path) != 0) {
+        CloseFile();
     }
-    CloseFile();
-    OpenFile(log_path);
 }
 
 // On success the stream is the log's, in place of the former, and its count starts at 0; on failure
-// both stay.
+// both stay. There is no moment without a stream: a thread that found none would take the log for
+// ended.
 int Logger::OpenFile(const ustring& path) {
     std::FILE* const opened = std::fopen(path.c_str(), "a");
     if (opened == nullptr) {
@@ -235,17 +233,21 @@ int Logger::OpenFile(const ustring& path) {
     }
     // The client that this process starts must not hold the log.
     fcntl(fileno(opened), F_SETFD, FD_CLOEXEC);
-    CloseFile();
-    Poke(log_fp, opened);
+    Replace(opened);
     *log_size = 0;
     return 0;
 }
 
 void Logger::CloseFile() {
-    if (log_fp != nullptr && log_fp != stderr && log_fp != stdout) {
-        std::fclose(log_fp);
+    Replace(nullptr);
+}
+
+void Logger::Replace(std::FILE* stream) {
+    std::FILE* const former = log_fp;
+    Poke(log_fp, stream);
+    if (former != nullptr && former != stderr && former != stdout) {
+        std::fclose(former);
     }
-    Poke(log_fp, nullptr);
 }
 
 void Logger::Destroy() {

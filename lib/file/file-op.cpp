@@ -337,7 +337,7 @@ namespace {
 // Put `make`'s new object in the place of `to`, as rename would, and take `from` away.
 template <class Make>
 int Recreate(ustring const& from, ustring const& to, Make make) {
-    if (make() != 0 && (errno != EEXIST || std::remove(to.c_str()) != 0 || make() != 0)) {
+    if (make() != 0 && (errno != EEXIST || unlink(to.c_str()) != 0 || make() != 0)) {
         return -3;
     }
     return std::remove(from.c_str()) == 0 ? 0 : -3;
@@ -354,7 +354,20 @@ int MoveLink(ustring const& from, ustring const& to) {
 }
 
 int MoveFifo(ustring const& from, ustring const& to, mode_t mode) {
-    return Recreate(from, to, [&] { return mkfifo(to.c_str(), mode & 07777); });
+    // The umask is not for what only moves.
+    return Recreate(from, to, [&] {
+        return mkfifo(to.c_str(), 0600) != 0 ? -1 : chmod(to.c_str(), mode & 07777);
+    });
+}
+
+// A link at `to` is replaced, as rename would: written through, it would change, or empty, another
+// file.
+int MoveFile(ustring const& from, ustring const& to) {
+    struct stat status;
+    if (lstat(to.c_str(), &status) == 0 && S_ISLNK(status.st_mode) && unlink(to.c_str()) != 0) {
+        return -3;
+    }
+    return FSCopy(from, to, true) < 0 ? -3 : 0;
 }
 
 int MoveTree(ustring const& from, ustring const& to, bool exact) {
@@ -376,7 +389,7 @@ int MoveAcrossVolumes(ustring const& from, ustring const& to, _FILE_INFO_tag con
                       bool exact) {
     switch (info.type) {
         case FS_TYPE_FILE:
-            return FSCopy(from, to, true) < 0 ? -3 : 0;
+            return MoveFile(from, to);
         case FS_TYPE_DIR:
             return MoveTree(from, to, exact);
         case FS_TYPE_LINK:
@@ -475,6 +488,7 @@ int MakeComponents(char* path, char*& reached, bool replace, mode_t mode) {
 
 int FSMKDirP(ustring const& path, char** end, bool replace, unsigned short mode) {
     if (path.empty()) {
+        errno = ENOENT;
         return -1;
     }
     const std::unique_ptr<char, Freer> copy(strdup(path.c_str()));
