@@ -4,7 +4,6 @@ option(QUILLMERE_COVERAGE "Instrument for gcov" OFF)
 set(QUILLMERE_SANITIZE "" CACHE STRING "Sanitizers, comma separated: address,undefined or thread")
 
 add_library(quillmere-build INTERFACE)
-target_compile_features(quillmere-build INTERFACE cxx_std_17)
 target_include_directories(quillmere-build INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
 target_compile_options(quillmere-build INTERFACE -Wall -Wextra -Wpedantic -Wshadow
                        $<$<BOOL:${QUILLMERE_WERROR}>:-Werror>)

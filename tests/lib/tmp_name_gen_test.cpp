@@ -1,77 +1,51 @@
-// Tests of the temporary names: the stream against a plain rendering of it, and its encoding.
+// Tests of the temporary names: the key, the stream and its encoding, and many callers.
 #include "tmp_name_gen.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <cstdio>
 #include <ctime>
 #include <filesystem>
-#include <numeric>
 #include <set>
 #include <string>
 #include <thread>
-#include <utility>
 #include <vector>
 
 #include "file/file-op.h"
 #include "tests/temp_dir.h"
 
 struct TmpNameGenTestPeer {
-    static unsigned char (&state())[256] { return TmpNameGen::getInstance()->m_state; }
+    static unsigned char* state() { return TmpNameGen::getInstance()->m_state; }
     static unsigned char (&key())[256] { return TmpNameGen::getInstance()->m_key; }
 };
 
 namespace {
 
-using Peer = TmpNameGenTestPeer;
-using Bytes = std::array<unsigned char, 256>;
+using Bytes = std::vector<unsigned char>;
 
-Bytes Schedule(const Bytes& key) {
-    Bytes state;
-    std::iota(state.begin(), state.end(), 0);
-    for (unsigned i = 0, j = 0; i < 256; ++i) {
-        j = (j + state[i] + key[i]) % 256;
-        std::swap(state[i], state[j]);
-    }
-    return state;
-}
-
-std::vector<unsigned char> Draw(Bytes& state, int count) {
-    std::vector<unsigned char> drawn;
-    for (unsigned i = 1, j = 0; static_cast<int>(i) <= count; ++i) {
-        j = (j + state[i % 256]) % 256;
-        std::swap(state[i % 256], state[j]);
-        drawn.push_back(state[(state[i % 256] + state[j]) % 256]);
-    }
-    return drawn;
-}
-
-TEST(TmpNameGenTest, StateAndDrawsFollowTheAlgorithm) {
+TEST(TmpNameGenTest, TheStreamOfAKnownKey) {
     TmpNameGen& gen = *TmpNameGen::getInstance();
-    Bytes key{'4', '2', '-', '7'}, state;
-    gen.rc4_init(state.data(), key.data());
-    Bytes expected = Schedule(key);
-    EXPECT_EQ(state, expected);
-    for (const int count : {6, 6, 0, -1, 600}) {
-        SCOPED_TRACE(count);
-        const std::vector<unsigned char> wanted = Draw(expected, count);
-        std::vector<unsigned char> drawn(wanted.size());
-        gen.rc4_randomize(state.data(), drawn.data(), count);
-        EXPECT_EQ(drawn, wanted);
-        EXPECT_EQ(state, expected);
+    unsigned char key[256] = {'4', '2', '-', '7'}, state[256];
+    gen.rc4_init(state, key);
+    Bytes drawn(600);
+    gen.rc4_randomize(state, drawn.data(), 6);
+    gen.rc4_randomize(state, nullptr, -1);
+    gen.rc4_randomize(state, drawn.data(), 600);
+    EXPECT_EQ(Bytes(drawn.end() - 6, drawn.end()), (Bytes{34, 10, 109, 56, 190, 251}));
+    gen.rc4_init(TmpNameGenTestPeer::state(), key);
+    for (const char* name : {"tM31ZCUx", "WNwf7xlF", "Ph5QrOFs"}) {
+        EXPECT_STREQ(gen.getTmpName().c_str(), name);
     }
     // An empty key is filled to its end; about one byte stays as it was by chance.
-    key.fill('x');
+    std::fill(key + 1, std::end(key), 'x');
     key[0] = 0;
-    gen.rc4_init(state.data(), key.data());
-    EXPECT_LT(std::count(key.begin(), key.end(), 'x'), 20);
-    EXPECT_EQ(state, Schedule(key));
+    gen.rc4_init(state, key);
+    EXPECT_LT(std::count(key, std::end(key), 'x'), 20);
 }
 
 TEST(TmpNameGenTest, TheKeyIsTheClockAndZeros) {
-    const auto& key = Peer::key();
+    const auto& key = TmpNameGenTestPeer::key();
     unsigned long seconds = 0, microseconds = 0;
     int length = 0;
     std::sscanf(reinterpret_cast<const char*>(key), "%lu-%lu%n", &seconds, &microseconds, &length);
@@ -80,47 +54,27 @@ TEST(TmpNameGenTest, TheKeyIsTheClockAndZeros) {
     EXPECT_EQ(std::count(key + length, std::end(key), 0), 256 - length);
 }
 
-TEST(TmpNameGenTest, ADrawIsCutIntoGroupsOfSixBits) {
-    const struct {
-        unsigned char drawn[6];
-        const char* name;
-    } kRows[] = {{{0x00, 0x10, 0x83, 0x10, 0x51, 0x87}, "01234567"},
-                 {{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}, "________"}};
-    for (const auto& row : kRows) {
-        // Each of the six steps swaps a pair of places of its own, and points at its byte.
-        for (unsigned char k = 0; k < 6; ++k) {
-            Peer::state()[1 + k] = 20;
-            Peer::state()[20 + 20 * k] = static_cast<unsigned char>(180 + k);
-            Peer::state()[200 + k] = row.drawn[k];
-        }
-        EXPECT_STREQ(TmpNameGen::getInstance()->getTmpName().c_str(), row.name);
-    }
-}
-
-TEST(TmpNameGenTest, ThreadsShareOneStreamWithoutRepeatingAName) {
-    TmpNameGen& gen = *TmpNameGen::getInstance();
-    unsigned char key[256] = {'4', '2'};
-    gen.rc4_init(Peer::state(), key);
+TEST(TmpNameGenTest, NamesOfAllThreadsDifferAndUseTheWholeAlphabet) {
     std::set<std::string> names, drawn[4];
     std::thread threads[4];
     for (int i = 0; i < 4; ++i) {
-        threads[i] = std::thread([&gen, &mine = drawn[i]] {
+        threads[i] = std::thread([&mine = drawn[i]] {
             for (int n = 0; n < 5000; ++n) {
-                mine.insert(gen.getTmpName().c_str());
+                mine.insert(TmpNameGen::getInstance()->getTmpName().c_str());
             }
         });
     }
+    std::set<char> characters;
     for (int i = 0; i < 4; ++i) {
         threads[i].join();
         names.merge(drawn[i]);
     }
-    EXPECT_EQ(names.size(), 20000u);
-    // The same state gives one thread the same names.
-    gen.rc4_init(Peer::state(), key);
-    for (int n = 0; n < 20000; ++n) {
-        names.erase(gen.getTmpName().c_str());
+    for (const std::string& name : names) {
+        characters.insert(name.begin(), name.end());
     }
-    EXPECT_EQ(names.size(), 0u);
+    EXPECT_EQ(names.size(), 20000u);
+    EXPECT_EQ(std::string(characters.begin(), characters.end()),
+              "-0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ_abcdefghijklmnopqrstuvwxyz");
 }
 
 TEST(TmpNameGenTest, ATempPathIsTheFolderAndANameAndNothingIsMade) {

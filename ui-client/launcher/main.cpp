@@ -23,7 +23,7 @@ constexpr int kRotations = 50;
 
 // The bundle's plug-ins replace Qt's own search. Result: the path that was set.
 QString SetLibraryPath(const char* program) {
-    const QString path = QDir::cleanPath(QString::fromUtf8(program) + "/../../Frameworks/plugins");
+    QString path = QDir::cleanPath(QString::fromUtf8(program) + "/../../Frameworks/plugins");
     QCoreApplication::setLibraryPaths(QStringList(path));
     std::printf("lib path = '%s'\n", path.toUtf8().constData());
     return path;
