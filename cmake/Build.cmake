@@ -11,6 +11,8 @@ if(QUILLMERE_SANITIZE)
   target_compile_options(quillmere-build INTERFACE -fsanitize=${QUILLMERE_SANITIZE}
                          -fno-omit-frame-pointer -fno-sanitize-recover=all)
   target_link_options(quillmere-build INTERFACE -fsanitize=${QUILLMERE_SANITIZE})
+  target_sources(quillmere-build INTERFACE
+    $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${PROJECT_SOURCE_DIR}/cmake/sanitizer-options.cpp>)
 endif()
 if(QUILLMERE_COVERAGE)
   target_compile_options(quillmere-build INTERFACE --coverage)

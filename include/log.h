@@ -13,13 +13,12 @@
 // A class of static members only. Every message names a component, and each component has a
 // threshold: a message passes when its level is at most that. The thresholds come from a level file
 // with one `component=number` line for each; a component without one has 4, so that errors and
-// warnings pass.
+// warnings pass. A threshold, once read, stays until another file sets it.
 //
 // A written line is the local time as "%b %d %H:%M:%S " and the message. Messages begin with the
 // level in brackets and the writing source file and line, which the caller puts into its format:
 //
-//     Logger::LogMsg(Logger::LEVEL_DEBUG, "launcher_debug", "[DEBUG] launcher(%d): running\n",
-//     __LINE__);
+//     Logger::LogMsg(Logger::LEVEL_DEBUG, component, "[DEBUG] launcher(%d): running\n", __LINE__);
 //
 // Until Initialize, lines go to standard error. Any thread may log; Initialize and Destroy replace
 // the lock and must run while no other thread logs. Nothing here reports a failure to a caller of
@@ -27,8 +26,7 @@
 class Logger {
   public:
     enum Type {
-        TYPE_SYSLOG =
-            1,  // vsyslog, always at priority 3 (LOG_ERR), without a time stamp of our own
+        TYPE_SYSLOG = 1,  // vsyslog, always at LOG_ERR, without a time stamp of our own
         TYPE_STDOUT = 2,
         TYPE_STDERR = 3,
         TYPE_FILE = 4,  // appended to, and rotated after more than 1048576 bytes from this process

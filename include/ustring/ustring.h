@@ -15,9 +15,11 @@
 // - Pointers and references given out last until the next operation that changes the object.
 //   `c_str_utf16` counts as such a change for pointers into the UTF-16 view.
 // - Null pointers, and pointers into the middle of the object's own buffers, must not be passed.
-// - Throws std::bad_alloc when memory runs out (the object is as it was before), and
-//   std::out_of_range for a position beyond the end. A failed conversion throws nothing: it writes
-//   a warning to std::cerr and leaves an empty text.
+// - Throws std::bad_alloc when memory runs out, with the object as it was just before it asked for
+// more
+//   (an assignment has cleared the text by then), and std::out_of_range for a position beyond the
+//   end. A failed conversion throws nothing: it writes a warning to std::cerr and leaves an empty
+//   text.
 // - A ustring belongs to one thread at a time, also for `c_str_utf16` and `normalize`, which write
 // the
 //   cache through const.

@@ -360,12 +360,19 @@ int MoveFifo(ustring const& from, ustring const& to, mode_t mode) {
     });
 }
 
-// A link at `to` is replaced, as rename would: written through, it would change, or empty, another
-// file.
+// What rename does and a copy would not: a file that is there under both names, by way of a second
+// mount, stays; and a link or a FIFO at `to` is replaced, where a copy would write through the one
+// and hang on the other.
 int MoveFile(ustring const& from, ustring const& to) {
-    struct stat status;
-    if (lstat(to.c_str(), &status) == 0 && S_ISLNK(status.st_mode) && unlink(to.c_str()) != 0) {
-        return -3;
+    struct stat source;
+    struct stat target;
+    if (lstat(from.c_str(), &source) == 0 && lstat(to.c_str(), &target) == 0) {
+        if (source.st_dev == target.st_dev && source.st_ino == target.st_ino) {
+            return 0;
+        }
+        if (!S_ISREG(target.st_mode) && !S_ISDIR(target.st_mode) && unlink(to.c_str()) != 0) {
+            return -3;
+        }
     }
     return FSCopy(from, to, true) < 0 ? -3 : 0;
 }

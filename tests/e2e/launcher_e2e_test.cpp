@@ -204,7 +204,7 @@ TEST(Launch, TakenBackupNames) {
 TEST(Launch, PidFileThatNamesNoClientHarmsNobody) {
     World world;
     kill(Install(world), SIGKILL);
-    // In a group of its own, so that a signal to the launcher's whole group would be seen.
+    // In the launcher's process group, which a signal to 0 would reach.
     const auto bystander = [&] {
         auto process = std::make_unique<QProcess>();
         process->start("sleep", {"1000"});
@@ -274,6 +274,26 @@ TEST(Launch, KilledLauncherAndOddLocksDoNotBlock) {
     fs::remove(world.User() + "/log/launcher.log");
     EXPECT_TRUE(EndedWell(world.Launch()));
     EXPECT_TRUE(Contains(world.Log(), ": no need to upgrade\n"));
+}
+
+// Killed at the worst moment, with the old copy aside and the new one in parts.
+TEST(Launch, KilledUpgradeIsMendedByTheNextRun) {
+    World world;
+    kill(Install(world), SIGKILL);
+    PackageEntries many;
+    for (int number = 0; number < 20000; ++number) {
+        many.push_back({"files/" + std::to_string(number), "content"});
+    }
+    world.Offer(2, Pack(ClientPackage(2, many)));
+    const auto killed = world.Start();
+    ASSERT_TRUE(WaitFor([&] { return fs::exists(world.App() + "/files/100"); }));
+    killed->kill();
+    killed->waitForFinished();
+    ASSERT_EQ(world.Installed(), "") << "a partial copy has a version";
+    EXPECT_TRUE(EndedWell(world.Launch()));
+    EXPECT_EQ(world.Installed(), "2");
+    EXPECT_TRUE(fs::exists(world.App() + "/files/19999"));
+    EXPECT_EQ(Copies(world), kOneCopy);
 }
 
 TEST(Launch, StartedClientStandsAlone) {

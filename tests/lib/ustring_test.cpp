@@ -5,7 +5,7 @@
 
 #include <cstring>
 #include <iostream>
-#include <map>
+#include <set>
 #include <sstream>
 #include <string>
 
@@ -27,6 +27,7 @@ constexpr unsigned short kUnit = u'é';
 
 std::string Text(ustring const& s) {
     EXPECT_EQ(s.length(), std::strlen(s.c_str()));
+    EXPECT_LT(s.length(), Peer::capacity(s));
     return s.c_str();
 }
 
@@ -34,6 +35,7 @@ std::u16string Utf16(ustring const& s) {
     unsigned short const* const units = s.c_str_utf16();
     const std::u16string text(units, units + Peer::units(s));
     EXPECT_EQ(units[text.size()], 0);
+    EXPECT_LT(text.size(), Peer::unit_capacity(s));
     return text;
 }
 
@@ -43,42 +45,23 @@ struct CerrCapture : std::ostringstream {
     std::streambuf* const former = std::cerr.rdbuf(rdbuf());
 };
 
-TEST(UstringStorageTest, BlocksFitExactlyWithSpareRoomOfUpToTheirHalf) {
-    ustring bytes, units;
-    EXPECT_EQ(Peer::unit_capacity(bytes), 4u);
-    EXPECT_EQ(Utf16(bytes), u"");
-    EXPECT_EQ(Peer::unit_capacity(bytes), 1u);
-    static const struct {
-        unsigned long length, capacity;
-    } kSteps[] = {{3, 4}, {1, 4},     {0, 1},    {9, 10},  {4, 10},
-                  {3, 4}, {100, 101}, {49, 101}, {48, 49}, {49, 50}};
-    for (auto const& step : kSteps) {
-        SCOPED_TRACE(step.length);
-        bytes.assign('x', step.length);
-        units.assign(static_cast<unsigned short>('x'), step.length);
-        EXPECT_EQ(Peer::capacity(bytes), step.capacity);
-        EXPECT_EQ(Peer::capacity(units), step.capacity);
-        EXPECT_EQ(Peer::unit_capacity(units), step.capacity);
-        EXPECT_EQ(Text(units), std::string(step.length, 'x'));
-    }
-}
-
 TEST(UstringChangeTest, EachChangeLeavesItsTextAndItsView) {
     static const struct {
         char const* name;
         void (*change)(ustring&);
         char const *text, *outcome;  // of the UTF-16 view that was built before, or the exception
     } kRows[] = {
-        {CHANGE(s.append("bc").append("de", 1).append("f", 9)), "aébcdf", "dropped"},
-        {CHANGE(s.append('b', 2).append(ustring("cde"), 1, 1)), "aébbd", "dropped"},
-        {CHANGE(((s += "b") += 'c') += std::string("d\0e", 3)), "aébcd", "dropped"},
-        {CHANGE(s.append(kUnits).append(kUnits, 1).append(kUnit, 2)), "aéézééé", "built"},
-        {CHANGE((s += kUnits) += kUnit), "aéézé", "built"},
-        {CHANGE(s.assign(ustring("bcd"), 1, 1)), "c", "dropped"},
+        {CHANGE(s.append("b").append("cd", 1).append("e", 9).append('f', 2)), "aébceff", "dropped"},
+        {CHANGE((((s = "e") += "b") += 'c') += std::string("d\0e", 3)), "ebcd", "dropped"},
+        {CHANGE(((s += kUnits) += kUnit).append(kUnits, 1).append(kUnit, 2)), "aéézéééé", "built"},
+        {CHANGE(s.assign(ustring("bcd"), 1, 1).append(ustring("fgh"), 1, 1)), "cg", "dropped"},
+        {CHANGE(s.assign('b', 9).assign(std::string("bcd"), 1, 9)), "cd", "dropped"},
         {CHANGE(s = std::string("b\0c", 3)), "b", "dropped"},
-        {CHANGE(s = "bcd"), "bcd", "dropped"},
-        {CHANGE(s = kUnits), "éz", "built"},
+        {CHANGE((s = 'b') += ustring('c')), "bc", "dropped"},
+        {CHANGE(s.assign(kUnit, 9) = kUnits), "éz", "built"},
         {CHANGE(s = kUnit), "é", "built"},
+        {CHANGE(s.assign("bcd", 2)), "bc", "dropped"},
+        {CHANGE(s.assign(kUnits, 1)), "é", "built"},
         {CHANGE(s.append(s.c_str()).append(s.c_str(), 1)), "aéaéa", "dropped"},
         {CHANGE(s.append(s.c_str_utf16()).append(s.c_str_utf16(), 1)), "aéaéa", "built"},
         {CHANGE((s += s).append(s, 4, 9)), "aéaéé", "dropped"},
@@ -88,9 +71,12 @@ TEST(UstringChangeTest, EachChangeLeavesItsTextAndItsView) {
         {CHANGE(s.assign(s.c_str_utf16()).assign(s.c_str_utf16(), 2)), "aé", "built"},
         {CHANGE(s.assign(s.c_str_utf16(), 1)), "a", "built"},
         {CHANGE(ustring other(kUnits + 1); swap(s, other)), "z", "built"},
+        {CHANGE(s.trim("b"), s.trim(""), s.replace('b', 'c'), s.replace(0, 'c')), "aé", "built"},
+        {CHANGE(s.ltrim("a")), "é", "dropped"},
+        {CHANGE(s.rtrim("é")), "a", "dropped"},
+        {CHANGE(s.replace('a', '\xFF'), s.replace('\xFF', 'b')), "bé", "dropped"},
+        {CHANGE((s + '\0' + s.substr(1, 9) + "b" + kUnits + kUnit).swap(s)), "aéébézé", "dropped"},
         {CHANGE(s.substr(4, 1)), "aé", "substr"},
-        {CHANGE(s.assign(ustring("x"), 2, 1)), "", "substr"},
-        {CHANGE(s.assign(s, 4, 1)), "aé", "substr"},
         {CHANGE(s.append(std::string("x"), 2, 1)), "aé", "basic_string::substr"},
         {CHANGE(s.append('x', kNone)), "aé", "std::bad_alloc"},
         {CHANGE(s.append(kUnit, kNone / 2)), "aé", "std::bad_alloc"},
@@ -114,27 +100,14 @@ TEST(UstringChangeTest, EachChangeLeavesItsTextAndItsView) {
     }
 }
 
-TEST(UstringChangeTest, ResultsHoldUtf8OnlyAndEndAtTheFirstNul) {
-    ustring s(kUnits), nuls;
-    nuls.append('\0', 3);
-    EXPECT_EQ(nuls.length(), 3u);
-    EXPECT_EQ(Text(ustring(nuls)), "");
-    EXPECT_EQ(Text(s + '\0' + s.substr(2, 9) + "b" + 'c' + kUnits + kUnit), "ézzbcézé");
-    for (ustring const& result : {ustring(s), s.substr(0, 3), s + kUnit, s + kUnits}) {
-        EXPECT_EQ(Peer::units(result), 0u) << result;
-    }
-}
-
 TEST(UstringConversionTest, WhatCannotBeConvertedIsToldAndLeavesAnEmptyText) {
-    constexpr char kWarning[] = "Warning: u_strFromUTF8: error code 10 at line 921\n";
     for (char const* text : {"\xFF", "a\x80", "\xC3", "\xED\xA0\x80", "\xF4\x90\x80\x80"}) {
         SCOPED_TRACE(testing::PrintToString(text));
         const CerrCapture cerr;
         ustring s(text);
         EXPECT_FALSE(ustring::is_valid(s));
-        EXPECT_EQ(cerr.str(), "");
         EXPECT_EQ(Utf16(s), u"");
-        EXPECT_EQ(cerr.str(), kWarning);
+        EXPECT_EQ(cerr.str(), "Warning: u_strFromUTF8: error code 10 at line 921\n");
         EXPECT_EQ(Text(s.normalize(ustring::NFC)), "");
         EXPECT_EQ(Text(s), text);
         EXPECT_EQ(Text(s.append(kUnit, 1)), "é");  // the old text has no part in the result
@@ -145,21 +118,16 @@ TEST(UstringConversionTest, WhatCannotBeConvertedIsToldAndLeavesAnEmptyText) {
 }
 
 TEST(UstringConversionTest, GoesBothWaysAndNormalises) {
-    const CerrCapture cerr;
     const unsigned short units[] = {'a', 0xE9, 0x6F22, 0xD83D, 0xDE00, 0};
     EXPECT_EQ(Text(units), "aé漢😀");
     EXPECT_EQ(Utf16("aé漢😀"), u"aé漢😀");
     EXPECT_TRUE(ustring::is_valid("aé漢😀") && ustring::is_valid(""));
     // Marks in another order, a syllable, and a ligature, which is no composed form.
     const ustring source("e\u0301 \u00E9 \u00E2\u0323 \uAC01 \uFB01");
-    const ustring composed = ustring::normalize(source, ustring::NFC);
     const ustring decomposed = source.normalize(ustring::NFD);
-    EXPECT_EQ(Text(composed), "\u00E9 \u00E9 \u1EAD \uAC01 \uFB01");
+    EXPECT_EQ(Text(source.normalize(ustring::NFC)), "\u00E9 \u00E9 \u1EAD \uAC01 \uFB01");
     EXPECT_EQ(Text(decomposed), "e\u0301 e\u0301 a\u0323\u0302 \u1100\u1161\u11A8 \uFB01");
-    EXPECT_EQ(Peer::units(composed), 9u);
-    EXPECT_EQ(Peer::units(decomposed), 15u);
-    EXPECT_EQ(Text(ustring().normalize(ustring::NFC)), "");
-    EXPECT_EQ(cerr.str(), "");
+    EXPECT_EQ(Utf16(decomposed), Utf16(decomposed.c_str()));
 }
 
 // The positions that the six searches give, "-" for none.
@@ -180,14 +148,11 @@ TEST(UstringSearchTest, EveryFamilyAndEveryKindOfNeedle) {
         long pos;  // -1 for npos
         char const* found;
     } kRows[] = {
-        {"abcabc", "bc", 0, "1-10-0"},  {"abcabc", "bc", 1, "111310"},
-        {"abcabc", "bc", 2, "412320"},  {"abcabc", "bc", 6, "-4--53"},
-        {"abcabc", "bc", -1, "-4--53"}, {"abc", "abcd", 0, "--0-0-"},
-        {"aaa", "aa", 2, "-12-2-"},     {"aab", "ab", 0, "1-0-0-"},
-        {"a/b/c", "/", 2, "313212"},    {"/", "/", -1, "-0--0-"},
-        {"abc", "/", 0, "---0-0"},      {"é", "à", 0, "--010-"},
-        {"", "a", 0, "------"},         {"", "", -1, "------"},
-        {"abc", "", 1, "11-1-1"},       {"abc", "", 3, "-2---2"},
+        {"abcabc", "bc", 0, "1-10-0"}, {"abcabc", "bc", 1, "111310"}, {"abcabc", "bc", 6, "-4--53"},
+        {"abc", "abcd", 0, "--0-0-"},  {"aaa", "aa", 2, "-12-2-"},    {"aab", "ab", 0, "1-0-0-"},
+        {"a/b/c", "/", 2, "313212"},   {"/", "/", -1, "-0--0-"},      {"abc", "/", 0, "---0-0"},
+        {"é", "à", 0, "--010-"},       {"", "a", 0, "------"},        {"", "", -1, "------"},
+        {"abc", "", 1, "11-1-1"},      {"abc", "", 3, "-2---2"},
     };
     for (auto const& row : kRows) {
         SCOPED_TRACE(testing::Message() << row.needle << " in " << row.text << " from " << row.pos);
@@ -201,68 +166,35 @@ TEST(UstringSearchTest, EveryFamilyAndEveryKindOfNeedle) {
     ustring s("ab-cd");
     s[2] = '\0';
     EXPECT_EQ(s.find('c', 0), kNone);
-    EXPECT_EQ(s.find_first_not_of("", 2), kNone);
 }
 
-TEST(UstringTrimTest, TakesBytesOfTheSetAndKeepsTheBlock) {
-    static const struct {
-        char const *text, *set, *trimmed[3];  // by ltrim, rtrim and trim
-    } kRows[] = {
-        {"  a b ", " ", {"a b ", "  a b", "a b"}}, {"   ", " ", {"", "", ""}},
-        {"xyaxy", "yx", {"axy", "xya", "a"}},      {"a  ", " ", {"a  ", "a", "a"}},
-        {"é", "\xA9", {"é", "\xC3", "\xC3"}},      {"a", "b", {"a", "a", "a"}},
-        {" a ", "", {" a ", " a ", " a "}},        {"", " ", {"", "", ""}},
-    };
-    static void (*const kTrims[])(ustring&, char const*) = {
-        [](ustring& s, char const* set) { s.ltrim(set); },
-        [](ustring& s, char const* set) { s.rtrim(ustring(set)); },
-        [](ustring& s, char const* set) { s.trim(set); }};
-    for (auto const& row : kRows) {
-        ustring s[] = {row.text, row.text, row.text};
-        for (int i = 0; i < 3; ++i) {
-            SCOPED_TRACE(testing::Message() << "'" << row.text << "' " << i);
-            const std::size_t units = Utf16(s[i]).size();
-            kTrims[i](s[i], row.set);
-            EXPECT_EQ(Text(s[i]), row.trimmed[i]);
-            EXPECT_EQ(Peer::capacity(s[i]), Peer::capacity(ustring(row.text)));
-            EXPECT_EQ(Peer::units(s[i]), Text(s[i]) == row.text ? units : 0);
-        }
+TEST(UstringTrimTest, TakesBytesOfTheSet) {
+    static char const* const kRows[][3] = {
+        {"  a b ", " ", "a b |  a b|a b"}, {"   ", " ", "||"}, {"a  ", " ", "a  |a|a"},
+        {"é", "\xA9", "é|\xC3|\xC3"},      {"", " ", "||"},    {"xyaxy", "yx", "axy|xya|a"}};
+    for (auto const& [text, set, trimmed] : kRows) {
+        ustring left(text), right(text), both(text);
+        left.ltrim(set);
+        right.rtrim(ustring(set));
+        both.trim(set);
+        EXPECT_EQ(Text(left) + "|" + Text(right) + "|" + Text(both), trimmed);
     }
-}
-
-TEST(UstringTrimTest, ReplaceDropsTheViewOnlyWhenItChangedAByte) {
-    ustring s("banana");
-    s.c_str_utf16();
-    s.replace('x', 'y');
-    s.replace('\0', 'y');
-    EXPECT_EQ(Peer::units(s), 6u);
-    s.replace('a', '\xFF');
-    s.replace('\xFF', 'o');
-    EXPECT_EQ(Utf16(s), u"bonono");
-    s.replace('n', '\0');
-    EXPECT_EQ(s.length(), 6u);
-    EXPECT_EQ(Text(ustring(s)), "bo");
 }
 
 TEST(UstringCompareTest, GivesTheDifferenceOfTheFirstBytesThatDiffer) {
     static const struct {
         char const *a, *b;
         int difference, folded;
-    } kRows[] = {
-        {"", "", 0, 0},      {"a", "b", -1, -1},         {"a", "c", -2, -2},
-        {"ab", "a", 98, 98}, {"AZ", "az", -32, 0},       {"ABC", "abd", -32, -1},
-        {"é", "É", 32, 32},  {"@", "`", -32, -32},       {"[", "{", -32, -32},
-        {"_", "A", 30, -2},  {"\xFF", "\x7F", 128, 128}, {"é", "e\u0301", 94, 94},
-    };
-    for (auto const& row : kRows) {
-        SCOPED_TRACE(testing::Message() << row.a << " and " << row.b);
-        const ustring a(row.a), b(row.b);
-        const int difference = row.difference;
+    } kRows[] = {{"", "", 0, 0},     {"ab", "a", 98, 98},     {"AZ", "az", -32, 0},
+                 {"a", "c", -2, -2}, {"@", "`", -32, -32},    {"ABC", "abd", -32, -1},
+                 {"é", "É", 32, 32}, {"[", "{", -32, -32},    {"\xFF", "\x7F", 128, 128},
+                 {"_", "A", 30, -2}, {"é", "e\u0301", 94, 94}};
+    for (auto const& [left, right, difference, folded] : kRows) {
+        SCOPED_TRACE(testing::Message() << left << " and " << right);
+        const ustring a(left), b(right);
         EXPECT_EQ(a.compare(b), difference);
-        EXPECT_EQ(a.compare(b, 0), 0);
-        EXPECT_EQ(a.compare(b, 9), difference);
         EXPECT_EQ(ustring::compare(b, a, false), -difference);
-        EXPECT_EQ(ustring::compare(a, b, true), row.folded);
+        EXPECT_EQ(ustring::compare(a, b, true), folded);
         EXPECT_TRUE((a == b) == (difference == 0) && (a != b) == (difference != 0));
         EXPECT_TRUE((a < b) == (difference < 0) && (a >= b) == (difference >= 0));
         EXPECT_TRUE((a > b) == (difference > 0) && (a <= b) == (difference <= 0));
@@ -272,16 +204,12 @@ TEST(UstringCompareTest, GivesTheDifferenceOfTheFirstBytesThatDiffer) {
 }
 
 TEST(UstringStreamTest, KeysOfAMapAreWrittenInTheOrderOfTheirBytesAndReadAsTokens) {
-    std::map<ustring, int> map{{"b", 1}, {"é", 2}, {"", 3}, {"ab", 4}, {"\xFF", 5}};
-    map[ustring(kUnits).substr(0, 2)] = 6;
     std::stringstream stream;
-    for (auto const& entry : map) {
-        stream << entry.first << entry.second << " \n";
+    for (ustring const& key : std::set<ustring>{"b", "é", "", "ab", "\xFF"}) {
+        stream << key << "1 \n";
     }
-    ustring s("bits");
-    s[1] = '\0';
-    stream << s << "!";
-    for (char const* token : {"3", "ab4", "b1", "é6", "\xFF\x35", "b!", ""}) {
+    ustring s;
+    for (char const* token : {"1", "ab1", "b1", "é1", "\xFF\x31", ""}) {
         EXPECT_EQ(!(stream >> s), *token == '\0');
         EXPECT_EQ(Text(s), token);
     }
