@@ -105,11 +105,11 @@ void World::LogEverything() {
               "launcher_debug=7\nservice_debug=7\nextractor_debug=7\nfile_op_debug=7\n");
 }
 
-std::unique_ptr<QProcess> World::Start(const std::function<void()>& in_child) const {
+std::unique_ptr<QProcess> World::Start(const std::function<void()>& in_child,
+                                       const QStringList& arguments) const {
     std::unique_ptr<QProcess> process(new ChildProcess(in_child));
     process->setProcessEnvironment(environment);
-    process->start(QString::fromStdString(program.empty() ? LauncherPath() : program),
-                   QStringList());
+    process->start(QString::fromStdString(program.empty() ? LauncherPath() : program), arguments);
     process->waitForStarted();
     return process;
 }

@@ -42,7 +42,8 @@ class World {
     // Sets log thresholds for all components.
     void LogEverything();
 
-    std::unique_ptr<QProcess> Start(const std::function<void()>& in_child = nullptr) const;
+    std::unique_ptr<QProcess> Start(const std::function<void()>& in_child = nullptr,
+                                    const QStringList& arguments = {}) const;
     Outcome Finish(QProcess& process) const;
     Outcome Launch() const { return Finish(*Start()); }
 
