@@ -1,10 +1,24 @@
-// What the sanitizers must know of the libraries: Qt's platform plug-ins and fontconfig keep what they have
-// allocated until the process ends.
+// What the sanitizers must know of libraries that are not built with them.
 extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __tsan_default_suppressions();
 
+// Qt's platform plug-ins and fontconfig keep what they have allocated until the process ends.
 extern "C" const char* __lsan_default_suppressions() {
     return "leak:libqoffscreen\n"
            "leak:libqxcb\n"
            "leak:libQt5XcbQpa\n"
            "leak:libfontconfig\n";
+}
+
+// Qt hands queued calls and their arguments from thread to thread under locks that are not seen.
+// These are the places of the program where it does so; what the calls lead to is checked.
+extern "C" const char* __tsan_default_suppressions() {
+    return "race:Notify_Adapter::Update\n"
+           "race:Worker::sig\n"
+           "race:QMetaType::destroy\n"
+           "race:QWaitCondition\n"
+           "race_top:memmove\n"
+           "race_top:write\n"
+           "race_top:operator delete\n"
+           "race_top:qt_static_metacall\n";
 }

@@ -74,8 +74,8 @@ GuiEnvironment::GuiEnvironment(const QString& library_path) {
     if (qEnvironmentVariableIsEmpty(kPlatformPlugins) && !HasPlatformPlugins(library_path)) {
         Set(kPlatformPlugins, QFile::encodeName(PlatformPluginsElsewhere()));
     }
-    // The first window waits for the list of fonts, a quarter of the time to the client's start. It is
-    // read while the application object connects to its display.
+    // The first window waits for the list of fonts, a quarter of the time to the client's start. It
+    // is read while the application object connects to its display.
     fonts_ = std::thread([] { FcInit(); });
 }
 

@@ -22,7 +22,11 @@ bool IsOwn(const QString& path) {
 // The XDG Base Directory Specification's directory for such files, if the session has one.
 QString LockDirectory() {
     const QString runtime = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
-    return !runtime.isEmpty() && IsOwn(runtime) ? runtime : QDir::tempPath();
+    if (!runtime.isEmpty() && IsOwn(runtime)) {
+        return runtime;
+    }
+    const QString temporary = QDir::tempPath();  // empty for a $TMPDIR that is not there
+    return temporary.isEmpty() ? QStringLiteral("/tmp") : temporary;
 }
 
 QString LockPath() {
