@@ -1,8 +1,9 @@
 // Packs a client directory into a package: make-package CLIENT_DIR INFO PACKAGE
 //
-// The package is a zstd-compressed pax tar with a checksum. Its entries are those of CLIENT_DIR in path order, and
-// last the file INFO as Contents/Resources/INFO: a copy that was cut short has no version and is
-// replaced at the next start. The same input gives the same bytes: owners and times are left out.
+// The package is a zstd-compressed pax tar with a checksum. Its entries are those of CLIENT_DIR in
+// path order, and last the file INFO as Contents/Resources/INFO: a copy that was cut short has no
+// version and is replaced at the next start. The same input gives the same bytes: owners and times
+// are left out.
 #include <archive.h>
 #include <archive_entry.h>
 #include <fcntl.h>

@@ -19,7 +19,7 @@ bool IsOwn(const QString& path) {
     return lstat(QFile::encodeName(path).constData(), &status) == 0 && status.st_uid == getuid();
 }
 
-// The XDG Base Directory Specification's directory for such files, if the session has one.
+// $XDG_RUNTIME_DIR is the freedesktop.org base directory for such files, if the session has one.
 QString LockDirectory() {
     const QString runtime = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
     if (!runtime.isEmpty() && IsOwn(runtime)) {
