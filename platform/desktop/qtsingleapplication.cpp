@@ -9,10 +9,14 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QThread>
 
 #include "platform/files/unique-fd.h"
 
 namespace {
+
+constexpr int kLooks = 20;
+constexpr unsigned long kPause = 5;  // milliseconds
 
 bool IsOwn(const QString& path) {
     struct stat status;
@@ -37,6 +41,15 @@ QString LockPath() {
         .arg(getuid());
 }
 
+// An owner makes the file, locks it and writes it, in this order and at once. So an empty file may
+// be one that is about to be locked; one that stays empty is not.
+void WaitUntilWritten(int file) {
+    struct stat status;
+    for (int look = 0; look < kLooks && fstat(file, &status) == 0 && status.st_size == 0; ++look) {
+        QThread::msleep(kPause);
+    }
+}
+
 // QLockFile keeps its file locked with flock(2) as long as it owns it, and the kernel ends that
 // with the process. So whoever gets the lock of the file has found one that nobody owns, whatever
 // it says inside.
@@ -45,6 +58,7 @@ void RemoveIfAbandoned(const QString& path) {
     const UniqueFd file(open(name.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
     struct stat opened;
     struct stat named;
+    WaitUntilWritten(file.get());
     if (file.valid() && flock(file.get(), LOCK_EX | LOCK_NB) == 0 &&
         fstat(file.get(), &opened) == 0 && lstat(name.constData(), &named) == 0 &&
         opened.st_ino == named.st_ino) {

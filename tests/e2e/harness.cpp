@@ -91,7 +91,7 @@ World::World(const std::string& name)
 World::~World() {
     const pid_t client = ClientPid();
     if (client > 1 && IsAlive(client)) {
-        kill(client, SIGKILL);
+        Kill(client);
     }
 }
 
@@ -143,8 +143,9 @@ pid_t World::StartClient(const QStringList& arguments) const {
     client.setProcessEnvironment(environment);
     client.setProgram(QString::fromStdString(App() + "/Contents/MacOS/quillmere-ui"));
     client.setArguments(arguments);
+    const pid_t former = ClientPid();
     client.startDetached();
-    return WaitForClient();
+    return WaitForClient(former);
 }
 
 std::string World::Installed() const {
@@ -172,4 +173,9 @@ bool IsAlive(pid_t pid) {
     const std::string status = ReadFile("/proc/" + std::to_string(pid) + "/stat");
     const std::size_t behind_name = status.rfind(") ");
     return behind_name != std::string::npos && status[behind_name + 2] != 'Z';
+}
+
+void Kill(pid_t pid) {
+    kill(pid, SIGKILL);
+    WaitFor([pid] { return !IsAlive(pid); });
 }

@@ -73,3 +73,5 @@ class World {
 // Polls `condition` until it holds. Result: false when it does not within `seconds`.
 bool WaitFor(const std::function<bool()>& condition, int seconds = 10);
 bool IsAlive(pid_t pid);
+// Kills a process and waits until it is gone.
+void Kill(pid_t pid);
