@@ -22,7 +22,7 @@ function(quillmere_add_bundle target)
     COMMAND ${CMAKE_COMMAND}
       -DLAUNCHER=$<TARGET_FILE:launcher>
       -DMAKE_PACKAGE=$<TARGET_FILE:make-package>
-      -DICON=${PROJECT_SOURCE_DIR}/bundle/ico_72_quillmere.png
+      -DICON=${CMAKE_CURRENT_FUNCTION_LIST_DIR}/../bundle/ico_72_quillmere.png
       -DPLUGINS=${QUILLMERE_QT_PLUGINS}
       -DCOPY_PLUGINS=${arg_COPY_PLUGINS}
       -DCLIENT_DIR=${arg_CLIENT_DIR}
@@ -31,7 +31,7 @@ function(quillmere_add_bundle target)
       -DMINOR_VERSION=${arg_MINOR_VERSION}
       -DICON_OVERLAY_VERSION=${arg_ICON_OVERLAY_VERSION}
       -DOUTPUT=${arg_OUTPUT}
-      -P ${PROJECT_SOURCE_DIR}/cmake/make-bundle.cmake
+      -P ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/make-bundle.cmake
     DEPENDS launcher make-package ${arg_DEPENDS}
     COMMENT "Bundle ${arg_OUTPUT}" VERBATIM)
 endfunction()

@@ -7,12 +7,11 @@
 
 // An ordered map from key to value, read from a file. A plain value: it keeps no file open.
 //
-// A line is `key=value`, with white space allowed around both. Keys are made of ASCII letters,
-// digits,
-// '_', '-' and '.', and may be empty. A value is plain (it ends at white space, and cannot be
-// empty) or stands between two equal quotes, single or double (it may be empty and hold blanks, and
-// no control character). '#' starts a comment, alone on a line or behind a value. Bytes of 0x80 and
-// above stand in values and comments only. Examples:
+// A line is `key=value`, with white space allowed around both. Keys are made of ASCII letters and
+// digits, underscores, hyphens and full stops, and may be empty. A value is plain (it ends at white
+// space, and cannot be empty) or stands between two equal quotes, single or double (it may be empty
+// and hold blanks, and no control character). A number sign starts a comment, alone on a line or
+// behind a value. Bytes of 0x80 and above stand in values and comments only. Examples:
 //
 //     pid=1234
 //       name = "two words"   # why

@@ -16,6 +16,7 @@
 
 #include "log.h"
 #include "platform/files/file-reference.h"
+#include "platform/files/malloc-ptr.h"
 #include "platform/files/unique-fd.h"
 #include "platform/files/volume-type.h"
 #include "tmp_name_gen.h"
@@ -28,10 +29,6 @@ constexpr int kCopyBuffer = 33554432;
 constexpr unsigned short kModeByUmask = 0xFFFF;
 constexpr int kWithTimeAndSize = 1;
 const ustring kComponent("file_op_debug");
-
-struct Freer {
-    void operator()(void* block) const { std::free(block); }
-};
 
 struct DirCloser {
     void operator()(DIR* dir) const { closedir(dir); }
@@ -285,7 +282,7 @@ int WriteAll(int file, char const* bytes, ssize_t size) {
 }
 
 int CopyBytes(int from, int to) {
-    const std::unique_ptr<char, Freer> buffer(static_cast<char*>(std::malloc(kCopyBuffer)));
+    const MallocPtr<char> buffer(static_cast<char*>(std::malloc(kCopyBuffer)));
     if (!buffer) {
         const int error = errno;
         Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
@@ -498,7 +495,7 @@ int FSMKDirP(ustring const& path, char** end, bool replace, unsigned short mode)
         errno = ENOENT;
         return -1;
     }
-    const std::unique_ptr<char, Freer> copy(strdup(path.c_str()));
+    const MallocPtr<char> copy(strdup(path.c_str()));
     if (!copy) {
         return -1;
     }

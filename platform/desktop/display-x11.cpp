@@ -15,14 +15,12 @@
 #include <memory>
 #include <string>
 
+#include "platform/files/malloc-ptr.h"
+
 namespace {
 
 constexpr int kPatience = 3000;  // milliseconds; a display across a slow link answers in less
 constexpr int kFirstPort = 6000;
-
-struct Freer {
-    void operator()(char* block) const { std::free(block); }
-};
 
 struct AddressesFreer {
     void operator()(addrinfo* addresses) const { freeaddrinfo(addresses); }
@@ -94,7 +92,7 @@ bool DisplayAnswers(UniqueFd& connection) {
     if (xcb_parse_display(nullptr, &parsed, &display, &screen) == 0) {
         return true;
     }
-    const std::unique_ptr<char, Freer> host(parsed);
+    const MallocPtr<char> host(parsed);
     connection = ConnectTo(host.get(), display);
     return connection.valid() && AnswersSetUp(connection.get());
 }

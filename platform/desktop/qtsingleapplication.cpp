@@ -78,8 +78,8 @@ bool QtSingleApplication::isRunning() {
     }
     const QString path = LockPath();
     lock_.reset(new QLockFile(path));
-    lock_->setStaleLockTime(
-        0);  // age alone makes no lock stale: an upgrade takes as long as it takes
+    // Age alone makes no lock stale: an upgrade takes as long as it takes.
+    lock_->setStaleLockTime(0);
     if (!lock_->tryLock(0) && lock_->error() == QLockFile::LockFailedError) {
         RemoveIfAbandoned(path);
         lock_->tryLock(0);

@@ -6,10 +6,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <memory>
 #include <string>
 
 #include "platform/files/file-reference.h"
+#include "platform/files/malloc-ptr.h"
 #include "platform/files/unique-fd.h"
 
 namespace {
@@ -49,12 +49,8 @@ OSStatus AskProc(int fd, FSRef* ref) {
     return IsGone(fd, ref->path, static_cast<std::size_t>(length)) ? ENOENT : 0;
 }
 
-struct Freer {
-    void operator()(char* block) const { std::free(block); }
-};
-
 OSStatus Resolve(const std::string& path, std::string& resolved) {
-    const std::unique_ptr<char, Freer> real(realpath(path.c_str(), nullptr));
+    const MallocPtr<char> real(realpath(path.c_str(), nullptr));
     if (!real) {
         return errno;
     }

@@ -11,6 +11,7 @@
 #include "platform/desktop/qtsingleapplication.h"
 #include "platform/desktop/utf8-names.h"
 #include "ui-client/launcher/launcher.h"
+#include "ui-client/launcher/qt-text.h"
 #include "ui-client/launcher/quillmere-service.h"
 #include "ui-client/launcher/str-table.h"
 #include "ui-client/libcommon/OrvaLocale.h"
@@ -33,7 +34,7 @@ QString SetLibraryPath(const char* program) {
 void SetUpLog() {
     const ustring level_file = Service::GetRootQuillmereInstallPath() + "/log/launcher.debug";
     const ustring directory = Service::GetUserQuillmereInstallPath() + "/log";
-    if (QDir(QString()).mkpath(QString::fromUtf8(directory.c_str()))) {
+    if (QDir(QString()).mkpath(ToQString(directory))) {
         Logger::Initialize(Logger::TYPE_FILE, directory + "/launcher.log", level_file, kRotations);
     }
 }

@@ -4,13 +4,7 @@
 #include <QCoreApplication>
 #include <QDir>
 
-namespace {
-
-ustring ToUstring(const QString& text) {
-    return text.toUtf8().constData();
-}
-
-}  // namespace
+#include "ui-client/launcher/qt-text.h"
 
 PackageInfo::PackageInfo()
     : image_dir(ToUstring(QCoreApplication::applicationDirPath() + "/images")),

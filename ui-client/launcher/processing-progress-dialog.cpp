@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <limits>
 
+#include "ui-client/launcher/qt-text.h"
 #include "ui-client/launcher/quillmere-service.h"
 #include "ui-client/launcher/str-table.h"
 
@@ -15,7 +16,7 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, 
     const ustring icon =
         Service::GetRootQuillmereResourceInstallPath() + "/images/ico_72_quillmere.png";
     setWindowTitle(StrTable::LoadStr(StrTable::kAppName));
-    setWindowIcon(QIcon(QString::fromUtf8(icon.c_str())));
+    setWindowIcon(QIcon(ToQString(icon)));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
     setValue(0);
     setRange(0, 100);

@@ -9,19 +9,12 @@
 #include "file/file-op.h"
 #include "log.h"
 #include "ui-client/launcher/extractor.h"
+#include "ui-client/launcher/qt-text.h"
 
 namespace {
 
 constexpr int kBackups = 10;
 const ustring kComponent("service_debug");
-
-ustring ToUstring(const QString& text) {
-    return text.toUtf8().constData();
-}
-
-QString ToQString(const ustring& text) {
-    return QString::fromUtf8(text.c_str());
-}
 
 ustring GetAppBackupDir(const ustring& app, int index) {
     if (index == 0) {

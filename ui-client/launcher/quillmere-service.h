@@ -23,9 +23,9 @@ struct VerInfo {
 //
 // and the per-user tree is the one place that is written to:
 //
-//     USER = <home>/.Quillmere             ui.pid (the client's), log/, data (the client's), app
-//     (aged) APP  = USER/Quillmere.app            the per-user copy APP_tmp, APP_tmp1 to APP_tmp9
-//     the old copy during an upgrade
+//     USER = <home>/.Quillmere          log/; the client's ui.pid and data; app, which is aged
+//     APP  = USER/Quillmere.app         the per-user copy
+//     APP_tmp, APP_tmp1 to APP_tmp9     the old copy during an upgrade
 class Service {
   public:
     Service();

@@ -1,0 +1,14 @@
+// Texts between the GUI's string type and the one below it.
+#pragma once
+
+#include <QString>
+
+#include "ustring/ustring.h"
+
+inline ustring ToUstring(const QString& text) {
+    return text.toUtf8().constData();
+}
+
+inline QString ToQString(const ustring& text) {
+    return QString::fromUtf8(text.c_str());
+}
