@@ -25,7 +25,7 @@ bool IsOwn(const QString& path) {
 
 // $XDG_RUNTIME_DIR is the freedesktop.org base directory for such files, if the session has one.
 QString LockDirectory() {
-    const QString runtime = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
+    QString runtime = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
     if (!runtime.isEmpty() && IsOwn(runtime)) {
         return runtime;
     }

@@ -176,6 +176,7 @@ bool IsAlive(pid_t pid) {
 }
 
 void Kill(pid_t pid) {
+    ASSERT_GT(pid, 1) << "no process";
     kill(pid, SIGKILL);
     WaitFor([pid] { return !IsAlive(pid); });
 }
