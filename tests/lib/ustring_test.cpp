@@ -215,4 +215,21 @@ TEST(UstringStreamTest, KeysOfAMapAreWrittenInTheOrderOfTheirBytesAndReadAsToken
     }
 }
 
+// Exact fit, and a block with spare room of up to its half stays.
+TEST(UstringCapacityTest, FollowsTheText) {
+    ustring s;
+    EXPECT_EQ(Peer::capacity(s), 4u);
+    EXPECT_EQ(Peer::unit_capacity(s), 4u);
+    s.c_str_utf16();
+    EXPECT_EQ(Peer::unit_capacity(s), 1u);
+    const std::pair<char const*, unsigned long> steps[] = {
+        {"abcdefghij", 11}, {"abcde", 11}, {"abcd", 11}, {"abc", 4}, {"", 1}, {"abcde", 6}};
+    for (const auto& [text, capacity] : steps) {
+        s.assign(text);
+        EXPECT_EQ(Peer::capacity(s), capacity) << text;
+    }
+    s.trim("abcde");
+    EXPECT_EQ(Peer::capacity(s), 6u);
+}
+
 }  // namespace
