@@ -78,6 +78,7 @@ class Logger {
   private:
     friend struct LoggerTestPeer;
 
+    static void ReadLevels(const ustring& path);
     static void EnsureReady();
     static bool HasNowhereToWrite();
     static void FollowRotation();

@@ -94,19 +94,12 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_path
     if (log_lock == nullptr || log_size == nullptr) {
         return -1;
     }
-    log_level["default_component"] = kDefaultThreshold;
-    if (!level_path.empty()) {
-        Config levels;
-        levels.read(level_path);
-        for (const auto& level : levels) {
-            log_level[level.first] = levels.get_int(level.first);
-        }
-    }
-    // Kept for the case that the new one cannot be had: lines then go on to where they went.
+    ReadLevels(level_path);
     Poke(log_type, type);
-    *log_size = -1;
     *log_rotated_count_shared = 0;
     log_rotated_count_private = 0;
+    // Nothing is counted until a file is open; if none can be, lines go on to where they went.
+    *log_size = -1;
     if (type == TYPE_FILE) {
         if (path.empty() || OpenFile(path) != 0) {
             return -1;
@@ -119,6 +112,18 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_path
     }
     Poke(log_initialized, true);
     return 0;
+}
+
+void Logger::ReadLevels(const ustring& path) {
+    log_level["default_component"] = kDefaultThreshold;
+    if (path.empty()) {
+        return;
+    }
+    Config levels;
+    levels.read(path);
+    for (const auto& level : levels) {
+        log_level[level.first] = levels.get_int(level.first);
+    }
 }
 
 void Logger::LogMsg(Level level, const ustring& component, const char* format, ...) {

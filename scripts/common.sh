@@ -27,7 +27,7 @@ install_packages() {
   local root=()
   [ "$(id -u)" -eq 0 ] || root=(sudo)
   "${root[@]}" apt-get update -qq
-  DEBIAN_FRONTEND=noninteractive "${root[@]}" apt-get install -qq -y --no-install-recommends "${missing[@]}" >/dev/null
+  "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -qq -y --no-install-recommends "${missing[@]}" >/dev/null
 }
 
 # build PRESET

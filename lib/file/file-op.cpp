@@ -97,6 +97,14 @@ OSStatus MakeReference(ustring const& composed, ustring const& given, FSRef& ref
     return FSPathMakeRefWithOptions(Bytes(given), options, &ref, nullptr);
 }
 
+// Writes the path of the object as the file system spells it. Result: the status of what failed, or
+// 0.
+OSStatus FindRealPath(ustring const& composed, ustring const& given, UInt8 (&buffer)[kPathBuffer]) {
+    FSRef ref;
+    const OSStatus status = MakeReference(composed, given, ref);
+    return status != 0 ? status : FSRefMakePath(&ref, buffer, sizeof buffer);
+}
+
 bool IsDotOrDotDot(char const* name) {
     return std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0;
 }
@@ -189,15 +197,8 @@ int GetFileInfo(ustring const& path, _FILE_INFO_tag& info) {
     const ustring composed = Composed(path);
     Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
                    "[DEBUG] file-op(%d): Input file path = [%s].\n", __LINE__, composed.c_str());
-    FSRef ref;
-    OSStatus outcome = MakeReference(composed, path, ref);
-    if (outcome != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] file-op(%d): FSPathMakeRef: %d\n",
-                       __LINE__, static_cast<int>(outcome));
-        return -1;
-    }
     UInt8 buffer[kPathBuffer] = {};
-    outcome = FSRefMakePath(&ref, buffer, sizeof buffer);
+    const OSStatus outcome = FindRealPath(composed, path, buffer);
     if (outcome != 0) {
         Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] file-op(%d): FSPathMakeRef: %d\n",
                        __LINE__, static_cast<int>(outcome));

@@ -247,6 +247,14 @@ TEST(Launch, PidFileThatNamesNoClientHarmsNobody) {
     }
     EXPECT_EQ(bystander->state(), QProcess::Running);
     Kill(world.WaitForClient());
+
+    // Somebody else's process is waited for and stays, and the upgrade goes on.
+    WriteFile(world.User() + "/ui.pid", "pid=" + std::to_string(getpid()) + "\n");
+    world.Offer(build);
+    EXPECT_TRUE(EndedWell(world.Finish(*world.Start(become_loner))));
+    EXPECT_EQ(world.Installed(), std::to_string(build));
+    EXPECT_TRUE(Contains(world.Log(), ": kill: Operation not permitted (1)\n"));
+    Kill(world.WaitForClient(getpid()));
     bystander->kill();
     bystander->waitForFinished();
 }

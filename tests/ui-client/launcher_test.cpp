@@ -140,26 +140,7 @@ TEST(StringTable, HoldsItsFigures) {
     EXPECT_EQ(marks[R"({\VerdanaBold13})"] + marks[R"({\DlgFont8})"], 7);
 }
 
-TEST(StringTable, FixedRowsAndLookUps) {
-    const std::pair<int, const char*> rows[] = {
-        {0, "Keep your data safe and synced at all times"},
-        {22, "Please restart %1 to apply the new language settings."},
-        {83, "Quillmere Drive is ready."},
-        {104,
-         "The folder home\\Quillmere on your NAS has already been linked to this PC. We will "
-         "launch the "
-         "synced folder when you click Done. Or you can set up a seperate task: %1"},
-        {123, "{\\VerdanaBold13}Welcome to the [ProductName] Setup Wizard"},
-        {307,
-         "This allows you to specify a folder on your computer to keep synced with a shared folder "
-         "on your "
-         "Orvane NAS. (Recommended for teamwork)\xE2\x80\x8B."},
-        {341, "Quillmere Drive is initializing..."},
-        {365, "Quillmere Drive"},
-        {525, "No settings were changed."}};
-    for (const auto& row : rows) {
-        EXPECT_EQ(StrTable::LoadStr(row.first), QString::fromUtf8(row.second));
-    }
+TEST(StringTable, LookUpsAndEscapes) {
     const std::pair<const char*, int> keys[] = {{"app_name", 365},
                                                 {"APP_NAME", 365},
                                                 {"nsis_not_admin_confirm", 93},

@@ -4,6 +4,8 @@
 #include <archive_entry.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QObject>
@@ -204,6 +206,30 @@ TEST_F(ServiceTest, CopiesTrees) {
     EXPECT_EQ(LogLines("FSCopyPath: failed to stat source ''"), 1);
     EXPECT_EQ(service.FSCopyPath(from.c_str(), (home / "plain").c_str()), -1);
     EXPECT_EQ(LogLines("FSCopyPath: failed to create dest folder"), 1);
+}
+
+// A directory that cannot be opened is left empty, and is no failure.
+TEST_F(ServiceTest, CopiesWhatCanBeRead) {
+    if (getuid() != 0) {
+        GTEST_SKIP() << "needs root to become another user";
+    }
+    WriteFile(home / "from/closed/file", "closed");
+    WriteFile(home / "from/open", "open");
+    fs::permissions(home / "from/closed", fs::perms::none);
+    fs::permissions(home.path(), fs::perms::all);
+    const pid_t child = fork();
+    if (child == 0) {
+        FakeExtraction service([] { return 0; });
+        _exit(setuid(65534) != 0
+                  ? 1
+                  : service.FSCopyPath((home / "from").c_str(), (home / "to").c_str()));
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(ReadFile(home / "to/open"), "open");
+    EXPECT_TRUE(fs::is_empty(home / "to/closed"));
+    EXPECT_EQ(LogLines("[WARNING] quillmere-service("), 1);
 }
 
 TEST_F(ExtractorTest, WritesReportsAndCounts) {

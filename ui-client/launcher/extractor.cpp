@@ -66,8 +66,7 @@ Reader OpenToLook(const ustring& path) {
     return reader;
 }
 
-// The next entry, its data skipped later; null at the end, be it of the archive or of what can be
-// read.
+// The next entry; null at the end of what can be read, be it damage or the archive's own.
 archive_entry* NextEntry(archive* reader) {
     archive_entry* entry = nullptr;
     return archive_read_next_header(reader, &entry) == ARCHIVE_OK ? entry : nullptr;

@@ -116,8 +116,10 @@ void Service::LoadTargetVersion() {
                    target_version.icon_overlay_version.c_str());
 }
 
+namespace {
+
 // Moves `app` to the first backup name that takes it. Result: 0, with the name and its index; -1.
-int Service::BackUp(const ustring& app, ustring& backup, int& index) {
+int BackUp(const ustring& app, ustring& backup, int& index) {
     for (index = 0; index < kBackups; ++index) {
         backup = GetAppBackupDir(app, index);
         if (FSRename(app, backup, false) == 0) {
@@ -134,6 +136,8 @@ int Service::BackUp(const ustring& app, ustring& backup, int& index) {
         __LINE__, app.c_str(), backup.c_str());
     return -1;
 }
+
+}  // namespace
 
 int Service::PrepareUserEnv() {
     const ustring app = user_app_path;

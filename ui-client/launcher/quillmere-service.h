@@ -76,7 +76,4 @@ class Service {
     ustring user_app_path;  // APP, for the whole run
     VerInfo target_version;
     VerInfo source_version;
-
-  private:
-    int BackUp(const ustring& app, ustring& backup, int& index);
 };
