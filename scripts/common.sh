@@ -71,7 +71,7 @@ use_display() {
   rm -f "$number"
   openbox >/dev/null 2>&1 &
   display_pids="$display_pids $!"
-  wait_for 20 xprop -root _NET_SUPPORTING_WM_CHECK || fail "no window manager"
+  wait_for 20 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q window.id' || fail "no window manager"
 }
 
 leave_display() {
