@@ -10,13 +10,16 @@ extern "C" const char* __lsan_default_suppressions() {
            "leak:libfontconfig\n";
 }
 
-// Qt hands queued calls and their arguments from thread to thread under locks that are not seen.
-// These are the places of the program where it does so; what the calls lead to is checked.
+// Qt hands queued calls and their arguments from thread to thread under locks that are not seen, in
+// lists that it moves and frees. Of most functions only the innermost counts, so that races in what
+// these calls lead to are still reported.
 extern "C" const char* __tsan_default_suppressions() {
     return "race:Notify_Adapter::Update\n"
            "race:Worker::sig\n"
            "race:QMetaType::destroy\n"
            "race:QWaitCondition\n"
+           "race_top:free\n"
+           "race_top:memcpy\n"
            "race_top:memmove\n"
            "race_top:write\n"
            "race_top:operator delete\n"
