@@ -1,6 +1,13 @@
 // The one log writer of the process.
 #pragma once
 
+// The head of a message: the arguments of Logger::LogMsg up to the first that `text` itself takes.
+// Level and prefix come from one word (ERROR, WARNING, NOTE, INFO or DEBUG), so they always agree.
+// A file that uses it names its tag and its component once: LOG_TAG, a string literal, is the
+// source file's name without extension, and kLogComponent a ustring.
+#define LOG_LINE(level, text) \
+    Logger::LEVEL_##level, kLogComponent, "[" #level "] " LOG_TAG "(%d): " text, __LINE__
+
 #include <pthread.h>
 
 #include <cstdarg>
@@ -16,9 +23,9 @@
 // warnings pass. A threshold, once read, stays until another file sets it.
 //
 // A written line is the local time as "%b %d %H:%M:%S " and the message. Messages begin with the
-// level in brackets and the writing source file and line, which the caller puts into its format:
+// level in brackets and the writing source file and line, which LOG_LINE puts there:
 //
-//     Logger::LogMsg(Logger::LEVEL_DEBUG, component, "[DEBUG] launcher(%d): running\n", __LINE__);
+//     Logger::LogMsg(LOG_LINE(DEBUG, "copied %s\n"), path.c_str());
 //
 // Until Initialize, lines go to standard error. Any thread may log; Initialize and Destroy replace
 // the lock and must run while no other thread logs. Nothing here reports a failure to a caller of

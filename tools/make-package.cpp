@@ -18,7 +18,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/files/unique-fd.h"
+#include "unique-fd.h"
 #include "ustring/ustring.h"
 
 namespace fs = std::filesystem;

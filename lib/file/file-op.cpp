@@ -15,11 +15,13 @@
 #include <utility>
 
 #include "log.h"
+#include "malloc-ptr.h"
 #include "platform/files/file-reference.h"
-#include "platform/files/malloc-ptr.h"
-#include "platform/files/unique-fd.h"
 #include "platform/files/volume-type.h"
 #include "tmp_name_gen.h"
+#include "unique-fd.h"
+
+#define LOG_TAG "file-op"
 
 namespace {
 
@@ -28,7 +30,7 @@ constexpr int kLinkBuffer = 1024;
 constexpr int kCopyBuffer = 33554432;
 constexpr unsigned short kModeByUmask = 0xFFFF;
 constexpr int kWithTimeAndSize = 1;
-const ustring kComponent("file_op_debug");
+const ustring kLogComponent("file_op_debug");
 
 struct DirCloser {
     void operator()(DIR* dir) const { closedir(dir); }
@@ -195,19 +197,15 @@ int GetFileInfo(ustring const& path, _FILE_INFO_tag& info) {
     info.type = type;
 
     const ustring composed = Composed(path);
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
-                   "[DEBUG] file-op(%d): Input file path = [%s].\n", __LINE__, composed.c_str());
+    Logger::LogMsg(LOG_LINE(DEBUG, "Input file path = [%s].\n"), composed.c_str());
     UInt8 buffer[kPathBuffer] = {};
     const OSStatus outcome = FindRealPath(composed, path, buffer);
     if (outcome != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] file-op(%d): FSPathMakeRef: %d\n",
-                       __LINE__, static_cast<int>(outcome));
+        Logger::LogMsg(LOG_LINE(ERROR, "FSPathMakeRef: %d\n"), static_cast<int>(outcome));
         return -1;
     }
     const ustring real = Composed(reinterpret_cast<char const*>(buffer));
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
-                   "[DEBUG] file-op(%d): FSRefMakePath outTargetPath path = [%s].\n", __LINE__,
-                   real.c_str());
+    Logger::LogMsg(LOG_LINE(DEBUG, "FSRefMakePath outTargetPath path = [%s].\n"), real.c_str());
     info.path = real;
     info.name = FSBaseName(real);
     return 0;
@@ -258,8 +256,7 @@ UniqueFd OpenForCopy(ustring const& path, int flags) {
     UniqueFd file(open(path.c_str(), flags | O_CLOEXEC, 0666));
     if (!file.valid()) {
         const int error = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__, path.c_str(),
+        Logger::LogMsg(LOG_LINE(ERROR, "CopyFile: open(%s): %s (%d)\n"), path.c_str(),
                        std::strerror(error), error);
     }
     return file;
@@ -271,9 +268,8 @@ int WriteAll(int file, char const* bytes, ssize_t size) {
         const ssize_t written = write(file, bytes, static_cast<std::size_t>(size));
         if (written <= 0) {
             const int error = errno;
-            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n", __LINE__,
-                           std::strerror(error), error);
+            Logger::LogMsg(LOG_LINE(ERROR, "CopyFile: write: %s (%d)\n"), std::strerror(error),
+                           error);
             return error == ENOSPC || error == EDQUOT ? -2 : -1;
         }
         bytes += written;
@@ -286,8 +282,7 @@ int CopyBytes(int from, int to) {
     const MallocPtr<char> buffer(static_cast<char*>(std::malloc(kCopyBuffer)));
     if (!buffer) {
         const int error = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n", __LINE__, kCopyBuffer,
+        Logger::LogMsg(LOG_LINE(ERROR, "FSCopy: malloc(%d): %s (%d)\n"), kCopyBuffer,
                        std::strerror(error), error);
         return -1;
     }
@@ -295,9 +290,8 @@ int CopyBytes(int from, int to) {
         const ssize_t size = read(from, buffer.get(), kCopyBuffer);
         if (size < 0) {
             const int error = errno;
-            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n", __LINE__,
-                           std::strerror(error), error);
+            Logger::LogMsg(LOG_LINE(ERROR, "CopyFile: read: %s (%d)\n"), std::strerror(error),
+                           error);
             return -1;
         }
         if (size == 0) {
@@ -435,19 +429,17 @@ int FSMKDir(ustring const& path, bool parents) {
     }
     _FILE_INFO_tag info;
     if (GetFileInfo(path, info) != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] file-op(%d): FSMKDir: Failed to to file info '%s'\n", __LINE__,
-                       path.c_str());
+        Logger::LogMsg(LOG_LINE(ERROR, "FSMKDir: Failed to to file info '%s'\n"), path.c_str());
         return -1;
     }
     if (info.exists) {
         if (info.type == FS_TYPE_DIR) {
             return 0;
         }
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] file-op(%d): FSMKDir: Create a folder but local file system is not "
-                       "directory '%s' (%d)\n",
-                       __LINE__, path.c_str(), info.type);
+        Logger::LogMsg(
+            LOG_LINE(ERROR,
+                     "FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n"),
+            path.c_str(), info.type);
         return -1;
     }
     const int made =
@@ -514,24 +506,20 @@ int FSMKDirP(ustring const& path, char** end, bool replace, unsigned short mode)
 int FSMKDirFromRoot(ustring const& target, ustring const& root) {
     if (root.length() > target.length()) {
         Logger::LogMsg(
-            Logger::LEVEL_ERROR, kComponent,
-            "[ERROR] file-op(%d): Giving a root '%s' whose length is larger then target's "
-            "'%s'.\n",
-            __LINE__, root.c_str(), target.c_str());
+            LOG_LINE(ERROR, "Giving a root '%s' whose length is larger then target's '%s'.\n"),
+            root.c_str(), target.c_str());
         return -1;
     }
     if (!FSIsParentFolder(root, target)) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] file-op(%d): root '%s' is not a parent folder of target '%s'\n",
-                       __LINE__, root.c_str(), target.c_str());
+        Logger::LogMsg(LOG_LINE(ERROR, "root '%s' is not a parent folder of target '%s'\n"),
+                       root.c_str(), target.c_str());
         return -1;
     }
     const ustring rest = target.substr(root.length(), ustring::npos);
     ustring done;
     while (done != rest) {
         done = rest.substr(0, rest.find_first_of('/', done.length() + 1));
-        Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
-                       "[DEBUG] file-op(%d): FSMKDirFromRoot: create %s\n", __LINE__, done.c_str());
+        Logger::LogMsg(LOG_LINE(DEBUG, "FSMKDirFromRoot: create %s\n"), done.c_str());
         if (FSMKDir(root + done, false) < 0) {
             return -1;
         }
@@ -575,8 +563,7 @@ int FSRemove(ustring const& path, bool) {
 namespace {
 
 void LogMktemp(char const* path, int error) {
-    Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] file-op(%d): mkstemp(%s): %s\n",
-                   __LINE__, path, std::strerror(error));
+    Logger::LogMsg(LOG_LINE(ERROR, "mkstemp(%s): %s\n"), path, std::strerror(error));
 }
 
 }  // namespace
@@ -611,9 +598,8 @@ int FSOpenDir(ustring const& path, int flags, DIR_HANDLE& handle) {
     DIR* const dir = opendir(path.c_str());
     if (dir == nullptr) {
         const int error = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] file-op(%d): FSOpenDir: Failed to open directory '%s'. %s\n",
-                       __LINE__, path.c_str(), std::strerror(error));
+        Logger::LogMsg(LOG_LINE(ERROR, "FSOpenDir: Failed to open directory '%s'. %s\n"),
+                       path.c_str(), std::strerror(error));
         return -1;
     }
     handle.dirp = dir;
@@ -626,9 +612,8 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
     dirent* next = nullptr;
     const int error = ReadEntry(handle.dirp, next);
     if (error != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] file-op(%d): FSOpenDir: Failed to read directory '%s'. %s\n",
-                       __LINE__, handle.path.c_str(), std::strerror(error));
+        Logger::LogMsg(LOG_LINE(ERROR, "FSOpenDir: Failed to read directory '%s'. %s\n"),
+                       handle.path.c_str(), std::strerror(error));
         return -1;
     }
     if (next == nullptr) {
@@ -638,9 +623,8 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
     if ((handle.flags & kWithTimeAndSize) != 0) {
         const ustring path = Child(handle.path, next->d_name);
         if (FSStat(path, info, true) < 0) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] file-op(%d): FSOpenDir: Failed to get info for '%s'\n",
-                           __LINE__, path.c_str());
+            Logger::LogMsg(LOG_LINE(ERROR, "FSOpenDir: Failed to get info for '%s'\n"),
+                           path.c_str());
             return -1;
         }
     }
@@ -661,10 +645,8 @@ bool isMountPoint(ustring const& path) {
     VolumeInfo volume;
     if (StatVolume(path.c_str(), &volume) != 0) {
         const int error = errno;
-        Logger::LogMsg(
-            Logger::LEVEL_ERROR, kComponent,
-            "[ERROR] file-op(%d): isMountPoint: Failed to get file system info '%s'. %s\n",
-            __LINE__, path.c_str(), std::strerror(error));
+        Logger::LogMsg(LOG_LINE(ERROR, "isMountPoint: Failed to get file system info '%s'. %s\n"),
+                       path.c_str(), std::strerror(error));
         return false;
     }
     static constexpr char const* kNetworkTypes[] = {"nfs", "smbfs", "afpfs"};
@@ -678,23 +660,19 @@ bool IsMSDOS(ustring const& path) {
     if (StatVolume(path.c_str(), &volume) != 0) {
         const int error = errno;
         Logger::LogMsg(
-            Logger::LEVEL_ERROR, kComponent,
-            "[ERROR] file-op(%d): IsSupportLargeFile: Failed to get file system info '%s'. %s\n",
-            __LINE__, path.c_str(), std::strerror(error));
+            LOG_LINE(ERROR, "IsSupportLargeFile: Failed to get file system info '%s'. %s\n"),
+            path.c_str(), std::strerror(error));
         return false;
     }
     if (std::strcmp(volume.f_fstypename, "msdos") != 0) {
         return false;
     }
-    Logger::LogMsg(Logger::LEVEL_WARNING, kComponent,
-                   "[WARNING] file-op(%d): Detect a MSDOS platform for path '%s'.\n", __LINE__,
-                   path.c_str());
+    Logger::LogMsg(LOG_LINE(WARNING, "Detect a MSDOS platform for path '%s'.\n"), path.c_str());
     return true;
 }
 
 int FSGetRealPath(ustring& path) {
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] file-op(%d):  org path [%s]\n",
-                   __LINE__, path.c_str());
+    Logger::LogMsg(LOG_LINE(DEBUG, " org path [%s]\n"), path.c_str());
     FSRef ref;
     if (FSPathMakeRef(Bytes(path), &ref, nullptr) != 0) {
         return -1;
@@ -704,19 +682,17 @@ int FSGetRealPath(ustring& path) {
         return -1;
     }
     path = reinterpret_cast<char const*>(buffer);
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] file-op(%d):  get full path [%s]\n",
-                   __LINE__, path.c_str());
+    Logger::LogMsg(LOG_LINE(DEBUG, " get full path [%s]\n"), path.c_str());
     return 0;
 }
 
 int FSCreateSymbolicLink(ustring const& target, ustring const& link) {
     if (symlink(target.c_str(), link.c_str()) != 0) {
         const int error = errno;
-        Logger::LogMsg(
-            Logger::LEVEL_ERROR, kComponent,
-            "[ERROR] file-op(%d): FSCreateSymbolicLink: Failed to create symbolic link '%s' -> "
-            "'%s' (code: %d, msg: %s)\n",
-            __LINE__, target.c_str(), link.c_str(), error, std::strerror(error));
+        Logger::LogMsg(LOG_LINE(ERROR,
+                                "FSCreateSymbolicLink: Failed to create symbolic link '%s' -> '%s' "
+                                "(code: %d, msg: %s)\n"),
+                       target.c_str(), link.c_str(), error, std::strerror(error));
         return -1;
     }
     return 0;
@@ -728,10 +704,9 @@ int FSReadSymbolicLink(ustring const& link, ustring& out) {
     if (length < 0 || length >= kLinkBuffer) {
         const int error = length < 0 ? errno : ENAMETOOLONG;
         Logger::LogMsg(
-            Logger::LEVEL_ERROR, kComponent,
-            "[ERROR] file-op(%d): FSReadSymbolicLink: Failed to read symbolic link '%s' (code: "
-            "%d, msg: %s)\n",
-            __LINE__, link.c_str(), error, std::strerror(error));
+            LOG_LINE(ERROR,
+                     "FSReadSymbolicLink: Failed to read symbolic link '%s' (code: %d, msg: %s)\n"),
+            link.c_str(), error, std::strerror(error));
         errno = error;
         return -1;
     }
@@ -742,9 +717,8 @@ int FSReadSymbolicLink(ustring const& link, ustring& out) {
 int FSChown(ustring const& path, unsigned int uid, unsigned int gid) {
     if (lchown(path.c_str(), uid, gid) != 0) {
         const int error = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] file-op(%d): FSChown: Failed to chown '%s' (code: %d, msg: %s)\n",
-                       __LINE__, path.c_str(), error, std::strerror(error));
+        Logger::LogMsg(LOG_LINE(ERROR, "FSChown: Failed to chown '%s' (code: %d, msg: %s)\n"),
+                       path.c_str(), error, std::strerror(error));
         return -1;
     }
     return 0;

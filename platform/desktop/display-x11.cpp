@@ -15,7 +15,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/files/malloc-ptr.h"
+#include "malloc-ptr.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Whether an X display answers.
 #pragma once
 
-#include "platform/files/unique-fd.h"
+#include "unique-fd.h"
 
 // Connects to the display that $DISPLAY names and waits, a few seconds at most, for its word on a
 // connection set-up (X Window System Protocol, section 8). Any word counts, a refusal too: Qt hears

@@ -6,7 +6,7 @@
 #include <thread>
 #include <vector>
 
-#include "platform/files/unique-fd.h"
+#include "unique-fd.h"
 
 // Stands around the construction of the application object. Qt ends the process when no platform
 // plug-in comes up, and hangs on a display that accepts a connection and never answers; the

@@ -11,7 +11,7 @@
 #include <QFile>
 #include <QThread>
 
-#include "platform/files/unique-fd.h"
+#include "unique-fd.h"
 
 namespace {
 

@@ -8,9 +8,9 @@
 #include <cstring>
 #include <string>
 
+#include "malloc-ptr.h"
 #include "platform/files/file-reference.h"
-#include "platform/files/malloc-ptr.h"
-#include "platform/files/unique-fd.h"
+#include "unique-fd.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include <QFileInfo>
 
 #include "e2e/harness.h"
-#include "platform/files/unique-fd.h"
+#include "unique-fd.h"
 
 namespace fs = std::filesystem;
 

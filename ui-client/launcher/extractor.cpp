@@ -11,10 +11,12 @@
 #include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/launcher/str-table.h"
 
+#define LOG_TAG "extractor"
+
 namespace {
 
 constexpr std::size_t kBlockSize = 10240;
-const ustring kComponent("extractor_debug");
+const ustring kLogComponent("extractor_debug");
 
 // What is written is new and lies under the user's own directory. So an existing file is replaced
 // and not written through (UNLINK), a path may not climb (NODOTDOT), and Mac OS X metadata go with
@@ -51,15 +53,13 @@ const char* ErrorText(archive* writer, archive* reader) {
 Reader OpenToLook(const ustring& path) {
     Reader reader(archive_read_new());
     if (!reader) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] extractor(%d): Allocate archive failed\n", __LINE__);
+        Logger::LogMsg(LOG_LINE(ERROR, "Allocate archive failed\n"));
         return nullptr;
     }
     archive_read_support_filter_all(reader.get());
     archive_read_support_format_all(reader.get());
     if (Open(reader.get(), path) != ARCHIVE_OK) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__,
+        Logger::LogMsg(LOG_LINE(ERROR, "archive_read_open_filename failed: '%s'\n"),
                        ErrorText(reader.get()));
         return nullptr;
     }
@@ -80,20 +80,16 @@ bool Extractor::HasPaths() const {
 
 int Extractor::Extract() {
     if (!HasPaths()) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] extractor(%d): Invalid Argument\n",
-                       __LINE__);
+        Logger::LogMsg(LOG_LINE(ERROR, "Invalid Argument\n"));
         return -1;
     }
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
-                   "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n", __LINE__,
-                   m_source.c_str(), m_dest.c_str());
+    Logger::LogMsg(LOG_LINE(DEBUG, "decompress from '%s' to '%s'\n"), m_source.c_str(),
+                   m_dest.c_str());
     Notify_Adapter::GetInstance()->UpdateDialogText(
         StrTable::LoadStr(StrTable::kEnvironmentPreparing));
     const int total = Count();
     if (total < 1) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] extractor(%d): Failed to calculate total file numbers, ret: %d\n",
-                       __LINE__, total);
+        Logger::LogMsg(LOG_LINE(ERROR, "Failed to calculate total file numbers, ret: %d\n"), total);
         return -1;
     }
     // The writer is declared first: the reader is to be freed before it.
@@ -103,17 +99,15 @@ int Extractor::Extract() {
         writer.reset(archive_write_disk_new());
     }
     if (!reader || !writer) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
+        Logger::LogMsg(LOG_LINE(ERROR, "Allocate extractor failed\n"));
         return -1;
     }
     archive_write_disk_set_options(writer.get(), kWriteOptions);
     archive_read_support_filter_all(reader.get());
     archive_read_support_format_all(reader.get());
     if (Open(reader.get(), m_source) != ARCHIVE_OK) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n", __LINE__,
-                       m_source.c_str(), ErrorText(reader.get()));
+        Logger::LogMsg(LOG_LINE(ERROR, "Failed to read file '%s' ('%s')\n"), m_source.c_str(),
+                       ErrorText(reader.get()));
         return -1;
     }
     return ExtractEntries(total, reader.get(), writer.get());
@@ -128,29 +122,25 @@ int Extractor::ExtractEntries(int total, archive* reader, archive* writer) {
             return 0;
         }
         if (header != ARCHIVE_OK) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] extractor(%d): archive_read_next_header failed: '%s'\n",
-                           __LINE__, ErrorText(reader));
+            Logger::LogMsg(LOG_LINE(ERROR, "archive_read_next_header failed: '%s'\n"),
+                           ErrorText(reader));
             return -1;
         }
         const char* const path = archive_entry_pathname(entry);
         if (path == nullptr) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] extractor(%d): archive_entry_pathname failed", __LINE__);
+            Logger::LogMsg(LOG_LINE(ERROR, "archive_entry_pathname failed"));
             return -1;
         }
         archive_entry_set_pathname(entry, (prefix + path).c_str());
         if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n", __LINE__,
+            Logger::LogMsg(LOG_LINE(ERROR, "archive_read_extract2 failed: '%s'\n"),
                            ErrorText(writer, reader));
             return -1;
         }
         Notify_Adapter::GetInstance()->UpdateProgress(total, number);
         if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n",
-                           __LINE__, ErrorText(writer));
+            Logger::LogMsg(LOG_LINE(ERROR, "archive_write_finish_entry failed: '%s'\n"),
+                           ErrorText(writer));
             return -1;
         }
     }
@@ -158,8 +148,7 @@ int Extractor::ExtractEntries(int total, archive* reader, archive* writer) {
 
 int Extractor::Count() {
     if (!HasPaths()) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] extractor(%d): Invalid argument\n",
-                       __LINE__);
+        Logger::LogMsg(LOG_LINE(ERROR, "Invalid argument\n"));
         return -1;
     }
     const Reader reader = OpenToLook(m_source);
@@ -176,8 +165,7 @@ int Extractor::Count() {
 
 int Extractor::List() {
     if (!HasPaths()) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] extractor(%d): Invalid argument\n",
-                       __LINE__);
+        Logger::LogMsg(LOG_LINE(ERROR, "Invalid argument\n"));
         return -1;
     }
     const Reader reader = OpenToLook(m_source);
@@ -196,8 +184,7 @@ int Extractor::List() {
 
 int Extractor::copy_data(archive* ar, archive* aw) {
     if (ar == nullptr || aw == nullptr) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] extractor(%d): Invalid Argument\n",
-                       __LINE__);
+        Logger::LogMsg(LOG_LINE(ERROR, "Invalid Argument\n"));
         return -1;
     }
     for (;;) {
@@ -209,15 +196,13 @@ int Extractor::copy_data(archive* ar, archive* aw) {
             return 0;
         }
         if (block != ARCHIVE_OK) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n",
-                           __LINE__, ErrorText(ar));
+            Logger::LogMsg(LOG_LINE(ERROR, "archive_read_data_block failed: '%s'\n"),
+                           ErrorText(ar));
             return -1;
         }
         if (archive_write_data_block(aw, buffer, size, offset) != ARCHIVE_OK) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n",
-                           __LINE__, ErrorText(aw));
+            Logger::LogMsg(LOG_LINE(ERROR, "archive_write_data_block failed: '%s'\n"),
+                           ErrorText(aw));
             return -1;
         }
     }

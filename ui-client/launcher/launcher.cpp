@@ -10,9 +10,11 @@
 #include "ui-client/launcher/processing-progress-dialog.h"
 #include "ui-client/launcher/str-table.h"
 
+#define LOG_TAG "launcher"
+
 namespace {
 
-const ustring kComponent("launcher_debug");
+const ustring kLogComponent("launcher_debug");
 
 }  // namespace
 
@@ -48,7 +50,7 @@ void Worker::JoinThread() {
 }
 
 void Worker::HandleServicce() {
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] launcher(%d): running\n", __LINE__);
+    Logger::LogMsg(LOG_LINE(DEBUG, "running\n"));
     m_service->PreUpgrade();
     if (m_service->IsNeedUpgrade()) {
         emit sigShowMsg();
@@ -56,16 +58,14 @@ void Worker::HandleServicce() {
             emit sigUpdateProgress(100, 100);
             emit sigSetLabelText(StrTable::LoadStr(StrTable::kEnvironmentReady));
         } else {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] launcher(%d): Failed to upgrade package\n", __LINE__);
+            Logger::LogMsg(LOG_LINE(ERROR, "Failed to upgrade package\n"));
         }
     } else {
-        Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
-                       "[DEBUG] launcher(%d): no need to upgrade\n", __LINE__);
+        Logger::LogMsg(LOG_LINE(DEBUG, "no need to upgrade\n"));
     }
     m_service->RemoveAgedFolders();
     m_service->PostUpgrade();
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] launcher(%d): done\n", __LINE__);
+    Logger::LogMsg(LOG_LINE(DEBUG, "done\n"));
     emit sigServiceDone();
 }
 

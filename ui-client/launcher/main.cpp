@@ -18,9 +18,12 @@
 
 int qInitResources_texts();
 
+#define LOG_TAG "main"
+
 namespace {
 
 constexpr int kRotations = 50;
+const ustring kLogComponent("launcher_debug");
 
 // The bundle's plug-ins replace Qt's own search. Result: the path that was set.
 QString SetLibraryPath(const char* program) {
@@ -61,8 +64,7 @@ int main(int argc, char** argv) {
     UseUtf8FileNames();
     SetUpLog();
     if (application.isRunning()) {
-        Logger::LogMsg(Logger::LEVEL_DEBUG, "launcher_debug",
-                       "[DEBUG] main(%d): app has already launched, return\n", __LINE__);
+        Logger::LogMsg(LOG_LINE(DEBUG, "app has already launched, return\n"));
         return 0;
     }
     QTranslator translator(nullptr);

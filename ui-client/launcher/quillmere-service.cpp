@@ -11,10 +11,12 @@
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/qt-text.h"
 
+#define LOG_TAG "quillmere-service"
+
 namespace {
 
 constexpr int kBackups = 10;
-const ustring kComponent("service_debug");
+const ustring kLogComponent("service_debug");
 
 ustring GetAppBackupDir(const ustring& app, int index) {
     if (index == 0) {
@@ -22,10 +24,7 @@ ustring GetAppBackupDir(const ustring& app, int index) {
     }
     char postfix[8];
     if (std::snprintf(postfix, sizeof postfix, "%d", index) < 0) {
-        Logger::LogMsg(
-            Logger::LEVEL_ERROR, kComponent,
-            "[ERROR] quillmere-service(%d): snprintf failed (continuing without postfix)",
-            __LINE__);
+        Logger::LogMsg(LOG_LINE(ERROR, "snprintf failed (continuing without postfix)"));
         return app + "_tmp";
     }
     return app + "_tmp" + postfix;
@@ -95,13 +94,11 @@ ustring Service::GetUserQuillmereDataInstallPath() {
 void Service::LoadSourceVersion() {
     const ustring path = GetUserQuillmereAppInstallPath() + "/Contents/Resources" + "/" + "INFO";
     if (!IsFileExist(path, false)) {
-        Logger::LogMsg(Logger::LEVEL_INFO, kComponent,
-                       "[INFO] quillmere-service(%d): source does not exist\n", __LINE__);
+        Logger::LogMsg(LOG_LINE(INFO, "source does not exist\n"));
         return;
     }
     LoadVersion(path, source_version);
-    Logger::LogMsg(Logger::LEVEL_INFO, kComponent,
-                   "[INFO] quillmere-service(%d): source_version = (%s, %s, %s, %s)\n", __LINE__,
+    Logger::LogMsg(LOG_LINE(INFO, "source_version = (%s, %s, %s, %s)\n"),
                    source_version.major_version.c_str(), source_version.minor_version.c_str(),
                    source_version.build_version.c_str(),
                    source_version.icon_overlay_version.c_str());
@@ -109,8 +106,7 @@ void Service::LoadSourceVersion() {
 
 void Service::LoadTargetVersion() {
     LoadVersion(GetRootQuillmereResourceInstallPath() + "/" + "INFO", target_version);
-    Logger::LogMsg(Logger::LEVEL_INFO, kComponent,
-                   "[INFO] quillmere-service(%d): target_version = (%s, %s, %s, %s)\n", __LINE__,
+    Logger::LogMsg(LOG_LINE(INFO, "target_version = (%s, %s, %s, %s)\n"),
                    target_version.major_version.c_str(), target_version.minor_version.c_str(),
                    target_version.build_version.c_str(),
                    target_version.icon_overlay_version.c_str());
@@ -125,15 +121,12 @@ int BackUp(const ustring& app, ustring& backup, int& index) {
         if (FSRename(app, backup, false) == 0) {
             return 0;
         }
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] quillmere-service(%d): failed to backup app from '%s' -> '%s'\n",
-                       __LINE__, app.c_str(), backup.c_str());
+        Logger::LogMsg(LOG_LINE(ERROR, "failed to backup app from '%s' -> '%s'\n"), app.c_str(),
+                       backup.c_str());
     }
     Logger::LogMsg(
-        Logger::LEVEL_ERROR, kComponent,
-        "[ERROR] quillmere-service(%d): failed to backup app from '%s' -> '%s' at max retries, "
-        "exiting\n",
-        __LINE__, app.c_str(), backup.c_str());
+        LOG_LINE(ERROR, "failed to backup app from '%s' -> '%s' at max retries, exiting\n"),
+        app.c_str(), backup.c_str());
     return -1;
 }
 
@@ -147,26 +140,18 @@ int Service::PrepareUserEnv() {
         return -1;
     }
     if (ExtractPackage() == 0) {
-        Logger::LogMsg(
-            Logger::LEVEL_INFO, kComponent,
-            "[INFO] quillmere-service(%d): user installation is ready, removing backup app\n",
-            __LINE__);
+        Logger::LogMsg(LOG_LINE(INFO, "user installation is ready, removing backup app\n"));
         for (int k = 0; k <= index; ++k) {
             FSRemove(GetAppBackupDir(app, k), false);
         }
         return 0;
     }
     if (backup.empty()) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] quillmere-service(%d): Failed to extract package, and no old "
-                       "installation to rollback\n",
-                       __LINE__);
+        Logger::LogMsg(
+            LOG_LINE(ERROR, "Failed to extract package, and no old installation to rollback\n"));
         return -1;
     }
-    Logger::LogMsg(
-        Logger::LEVEL_ERROR, kComponent,
-        "[ERROR] quillmere-service(%d): Failed to extract package, rollback to old installation\n",
-        __LINE__);
+    Logger::LogMsg(LOG_LINE(ERROR, "Failed to extract package, rollback to old installation\n"));
     FSRemove(app, false);
     FSRename(backup, app, false);
     return -1;
@@ -176,14 +161,11 @@ int Service::ExtractPackage() {
     const ustring package = GetRootQuillmereResourceInstallPath() + "/package/quillmere.qpk";
     const ustring destination = GetUserQuillmereAppInstallPath();
     if (FSMKDir(destination, true) < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] quillmere-service(%d): failed to create folder: '%s'\n", __LINE__,
-                       destination.c_str());
+        Logger::LogMsg(LOG_LINE(ERROR, "failed to create folder: '%s'\n"), destination.c_str());
         return -1;
     }
-    Logger::LogMsg(Logger::LEVEL_INFO, kComponent,
-                   "[INFO] quillmere-service(%d): extract package: '%s' -> '%s'\n", __LINE__,
-                   package.c_str(), destination.c_str());
+    Logger::LogMsg(LOG_LINE(INFO, "extract package: '%s' -> '%s'\n"), package.c_str(),
+                   destination.c_str());
     Extractor extractor;
     extractor.m_source = package;
     extractor.m_dest = destination;
@@ -192,46 +174,35 @@ int Service::ExtractPackage() {
 
 void Service::RemoveAgedFolders() {
     const ustring path = GetUserQuillmereInstallPath() + "/app";
-    Logger::LogMsg(Logger::LEVEL_INFO, kComponent,
-                   "[INFO] quillmere-service(%d): removing aged app folder %s\n", __LINE__,
-                   path.c_str());
+    Logger::LogMsg(LOG_LINE(INFO, "removing aged app folder %s\n"), path.c_str());
     FSRemove(path, false);
 }
 
 int Service::FSCopyPath(const ustring& src, const ustring& dst) {
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
-                   "[DEBUG] quillmere-service(%d): copy from '%s' to '%s'\n", __LINE__, src.c_str(),
-                   dst.c_str());
+    Logger::LogMsg(LOG_LINE(DEBUG, "copy from '%s' to '%s'\n"), src.c_str(), dst.c_str());
     _FILE_INFO_tag info;
     if (FSStat(src, info, false) < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] quillmere-service(%d): FSCopyPath: failed to stat source '%s'\n",
-                       __LINE__, src.c_str());
+        Logger::LogMsg(LOG_LINE(ERROR, "FSCopyPath: failed to stat source '%s'\n"), src.c_str());
         return -1;
     }
     if (!info.exists) {
-        Logger::LogMsg(
-            Logger::LEVEL_ERROR, kComponent,
-            "[ERROR] quillmere-service(%d): FSCopyPath: source path '%s' does not exist\n",
-            __LINE__, src.c_str());
+        Logger::LogMsg(LOG_LINE(ERROR, "FSCopyPath: source path '%s' does not exist\n"),
+                       src.c_str());
         return -1;
     }
     if (info.type != FS_TYPE_DIR) {
         return FSCopy(src, dst, false) < 0 ? -1 : 0;
     }
     if (FSMKDir(dst, true) < 0) {
-        Logger::LogMsg(
-            Logger::LEVEL_ERROR, kComponent,
-            "[ERROR] quillmere-service(%d): FSCopyPath: failed to create dest folder '%s'\n",
-            __LINE__, dst.c_str());
+        Logger::LogMsg(LOG_LINE(ERROR, "FSCopyPath: failed to create dest folder '%s'\n"),
+                       dst.c_str());
         return -1;
     }
     DIR_HANDLE handle;
     if (FSOpenDir(src, 0, handle) < 0) {
-        Logger::LogMsg(Logger::LEVEL_WARNING, kComponent,
-                       "[WARNING] quillmere-service(%d): FSCopyPath: failed to create handle  for "
-                       "src '%s' failed\n",
-                       __LINE__, src.c_str());
+        Logger::LogMsg(
+            LOG_LINE(WARNING, "FSCopyPath: failed to create handle  for src '%s' failed\n"),
+            src.c_str());
         return 0;
     }
     const DirCloser closer(handle);
@@ -245,10 +216,8 @@ int Service::FSCopyPath(const ustring& src, const ustring& dst) {
         const int copied =
             entry.type == FS_TYPE_DIR ? FSCopyPath(from, to) : FSCopy(from, to, false);
         if (copied < 0) {
-            Logger::LogMsg(
-                Logger::LEVEL_ERROR, kComponent,
-                "[ERROR] quillmere-service(%d): FSCopyPath: failed to copy from '%s' to '%s'\n",
-                __LINE__, from.c_str(), to.c_str());
+            Logger::LogMsg(LOG_LINE(ERROR, "FSCopyPath: failed to copy from '%s' to '%s'\n"),
+                           from.c_str(), to.c_str());
             return -1;
         }
     }

@@ -17,6 +17,8 @@
 #include "log.h"
 #include "platform/desktop/open-application.h"
 
+#define LOG_TAG "mac/mac-service"
+
 namespace {
 
 constexpr int kTimeout = 10000;
@@ -26,7 +28,7 @@ constexpr char kExecutable[] = "Contents/MacOS/quillmere-ui";
 constexpr char kLsregister[] =
     "/System/Library/Frameworks/CoreServices.framework/Frameworks/LaunchServices.framework/Support/"
     "lsregister";
-const ustring kComponent("service_debug");
+const ustring kLogComponent("service_debug");
 
 int VersionNumber(const ustring& text) {
     return text.size() == 0 ? 0 : std::atoi(text.c_str());
@@ -72,12 +74,10 @@ void MacService::LoadTargetVerInfo() {
 void MacService::PreUpgrade() {
     LoadTargetVerInfo();
     LoadSourceVerInfo();
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
-                   "[DEBUG] mac/mac-service(%d): Source version: ('%s', '%s')\n", __LINE__,
+    Logger::LogMsg(LOG_LINE(DEBUG, "Source version: ('%s', '%s')\n"),
                    source_version.build_version.c_str(),
                    source_version.icon_overlay_version.c_str());
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
-                   "[DEBUG] mac/mac-service(%d): Target version: ('%s', '%s')\n", __LINE__,
+    Logger::LogMsg(LOG_LINE(DEBUG, "Target version: ('%s', '%s')\n"),
                    target_version.build_version.c_str(),
                    target_version.icon_overlay_version.c_str());
 }
@@ -85,9 +85,7 @@ void MacService::PreUpgrade() {
 bool MacService::IsNeedUpgrade() {
     const int source = VersionNumber(source_version.build_version);
     const int target = VersionNumber(target_version.build_version);
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
-                   "[DEBUG] mac/mac-service(%d): source version = %d, target version = %d\n",
-                   __LINE__, source, target);
+    Logger::LogMsg(LOG_LINE(DEBUG, "source version = %d, target version = %d\n"), source, target);
     const bool present = PerUserBinPathExist();
     return target > source || !present;
 }
@@ -99,8 +97,7 @@ bool MacService::PerUserBinPathExist() {
 
 int MacService::HandlePackageUpgrade() {
     if (PerUserBinPathExist()) {
-        Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
-                       "[DEBUG] mac/mac-service(%d): local appdata exist\n", __LINE__);
+        Logger::LogMsg(LOG_LINE(DEBUG, "local appdata exist\n"));
         StopService();
     }
     return PrepareUserEnv();
@@ -109,17 +106,13 @@ int MacService::HandlePackageUpgrade() {
 void MacService::StopService() {
     const ustring path = GetUserQuillmereInstallPath() + "/ui.pid";
     if (!IsFileExist(path, false)) {
-        Logger::LogMsg(
-            Logger::LEVEL_DEBUG, kComponent,
-            "[DEBUG] mac/mac-service(%d): pid file '%s' does not exist, no need to terminate\n",
-            __LINE__, path.c_str());
+        Logger::LogMsg(LOG_LINE(DEBUG, "pid file '%s' does not exist, no need to terminate\n"),
+                       path.c_str());
         return;
     }
     Config file;
     if (file.read(path) < 0) {
-        Logger::LogMsg(Logger::LEVEL_NOTE, kComponent,
-                       "[NOTE] mac/mac-service(%d): Failed to read pid file '%s', not exist ?\n",
-                       __LINE__, path.c_str());
+        Logger::LogMsg(LOG_LINE(NOTE, "Failed to read pid file '%s', not exist ?\n"), path.c_str());
         return;
     }
     const long number = std::atol(file["pid"].c_str());
@@ -132,9 +125,7 @@ void MacService::StopService() {
         if (error == ESRCH) {
             return;
         }
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] mac/mac-service(%d): kill: %s (%d)\n", __LINE__,
-                       std::strerror(error), error);
+        Logger::LogMsg(LOG_LINE(ERROR, "kill: %s (%d)\n"), std::strerror(error), error);
     }
     for (int probe = 0; probe < kProbes; ++probe) {
         if (IsGone(pid)) {
@@ -148,16 +139,13 @@ void MacService::StopService() {
 int MacService::LaunchPerUserBin() {
     const QString app = QDir::homePath() + "/.Quillmere/Quillmere.app";
     if (RunLsregister(QStringList{"-u", app}) != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] mac/mac-service(%d): Cannot unregister bundle, %s", __LINE__,
-                       app.toUtf8().constData());
+        Logger::LogMsg(LOG_LINE(ERROR, "Cannot unregister bundle, %s"), app.toUtf8().constData());
     }
     return OpenApplication(app, kExecutable) ? 0 : -1;
 }
 
 void MacService::PostUpgrade() {
     if (LaunchPerUserBin() < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] mac/mac-service(%d): Failed to launch Quillmere UI\n", __LINE__);
+        Logger::LogMsg(LOG_LINE(ERROR, "Failed to launch Quillmere UI\n"));
     }
 }
