@@ -36,7 +36,7 @@
         <translation>退出</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Sharing link</source>
         <translation>共享链接</translation>
     </message>
     <message>
@@ -156,8 +156,8 @@
         <translation>非活动</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>删除</translation>
+        <source>Deleted</source>
+        <translation>已删除</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -316,7 +316,7 @@
         <translation>此计算机已与同一台 NAS 关联。请改为编辑现有连接。</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>%1 个项目</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>更多详细信息</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>在此处取消选择的文件夹将从此计算机上删除，NAS 上的副本将会保留。是否继续？</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>状态</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>复制到</translation>
+        <source>Copy to:</source>
+        <translation>复制到：</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -584,12 +584,12 @@
         <translation>最后一页</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>时间</translation>
+        <source>Date and time</source>
+        <translation>日期和时间</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>重命名</translation>
+        <source>Renamed</source>
+        <translation>已重命名</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -912,12 +912,12 @@
         <translation>与其他 NAS 同步</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>将在您的计算机上创建 Quillmere 文件夹，并使其与 Orvane NAS 上的 home 文件夹保持同步。（推荐个人使用）</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>将在您的计算机上创建 Quillmere 文件夹，并使其与 Orvane NAS 上您的 home 文件夹保持同步（推荐个人使用）。</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>单击此处更新</translation>
+        <source>Click here to upgrade</source>
+        <translation>单击此处升级</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,8 +1020,8 @@
         <translation>还原到早期版本</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>上传</translation>
+        <source>Uploaded</source>
+        <translation>已上传</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1048,8 +1048,8 @@
         <translation>完成(&amp;F)</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>为数据传输启用 SSL 加密</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>使用 SSL 加密连接</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>NAS 的 SSL 证书已更改。选择文件夹之前，请确认新证书。</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>取消关联</translation>
+        <source>Remove</source>
+        <translation>删除</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>找不到共享文件夹</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>取消关联</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1220,10 +1224,6 @@
         <translation>使用 RapidHail 连接</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>使用 SSL 加密连接</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}[ProductName] 安装向导提前结束</translation>
     </message>
@@ -1272,7 +1272,7 @@
         <translation>正在取消关联...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>让应用程序保持打开（需要重新启动）(&amp;L)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>最近更改的文件</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>取消关联 NAS</translation>
+        <source>Unlink from the NAS</source>
+        <translation>取消与 NAS 的关联</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,8 +1380,8 @@
         <translation>直接连接</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>下载</translation>
+        <source>Downloaded</source>
+        <translation>已下载</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1480,7 +1480,7 @@
         <translation>向前 %1 页</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
+        <source>The verification code is invalid. Please check the code and try again.</source>
         <translation>验证码无效。请检查验证码，然后重试。</translation>
     </message>
     <message>
@@ -1496,16 +1496,16 @@
         <translation>在被文件过滤器排除的文件上显示图标覆盖</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>添加其他同步任务</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>要同步的文件</translation>
     </message>
     <message>
         <source>File</source>
         <translation>文件</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>共享链接</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>否(&amp;N)</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>单击“修复”修复丢失或损坏的文件、快捷方式和注册表项。单击“上一步”重新检查您的选择。</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>单击“修复”还原丢失或损坏的文件、快捷方式和注册表项。单击“上一步”重新检查您的选择。</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,8 +1580,8 @@
         <translation>不再显示此消息</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>通过修复丢失或损坏的文件、快捷方式和注册表项，修复最近一次安装中的错误。</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>通过还原丢失或损坏的文件、快捷方式和注册表项，修复最近一次安装中的错误。</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
@@ -1688,10 +1688,6 @@
         <translation>更改已安装的功能</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>连接详细信息</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>如果您不再需要此程序，现在可以将其删除。已同步的文件将保留在此计算机上。</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>所选文件夹为只读。请选择您具有写入权限的文件夹。</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>确定要取消关联同步任务“%1”吗？此计算机和 NAS 上的文件都将保留。</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>确定要删除同步任务“%1”吗？此计算机和 NAS 上的文件都将保留。</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,7 +1736,7 @@
         <translation>Quillmere Drive 让您各台计算机上的文件夹与 Orvane NAS 保持同步。</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
+        <source>Enter the verification code</source>
         <translation>输入验证码</translation>
     </message>
     <message>
@@ -1784,8 +1780,8 @@
         <translation>自定义范围</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>您已达到 %1 个同步任务的上限。请先取消关联一个同步任务，再添加新任务。</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>您已达到 %1 个同步任务的上限。请先删除一个同步任务，再添加新任务。</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,7 +1812,7 @@
         <translation>让此计算机与 NAS 之间的文件保持同步，随时随地访问您的文件。</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
         <translation>您的帐户受双重验证保护。请输入验证码以继续。</translation>
     </message>
     <message>
@@ -1876,6 +1872,10 @@
         <translation>安装向导已准备好开始安装。</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>正在同步 %1 个文件</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>修复当前安装</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>正在更新...</translation>
+        <source>Upgrading...</source>
+        <translation>正在升级...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

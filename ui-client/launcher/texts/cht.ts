@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>This shared folder has been disabled for your account. Contact the administrator of the NAS to regain access.</source>
-        <translation>您的帳戶已無法使用此共用資料夾。若要恢復存取權，請聯絡 NAS 管理員。</translation>
+        <translation>此共用資料夾已針對您的帳戶停用。若要恢復存取權，請聯絡 NAS 管理員。</translation>
     </message>
     <message>
         <source>Merge the folders</source>
@@ -36,7 +36,7 @@
         <translation>結束</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Sharing link</source>
         <translation>共用連結</translation>
     </message>
     <message>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>無法讀取本機同步資料庫。請重新啟動 Quillmere Drive。如果問題持續發生，請重新連結這部電腦。</translation>
+        <translation>無法讀取本機同步資料庫。請重新啟動 Quillmere Drive。如果問題持續發生，請重新關聯這部電腦。</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>Make sure that Quillmere Drive Server is installed and running on your NAS before you continue.</source>
-        <translation>繼續之前，請確認 NAS 上已安裝並執行 Quillmere Drive Server。</translation>
+        <translation>繼續之前，請確認 NAS 上已安裝 Quillmere Drive Server 且正在執行。</translation>
     </message>
     <message>
         <source>Please restart %1 to apply the new language settings.</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>Linking...</source>
-        <translation>正在連結...</translation>
+        <translation>正在關聯...</translation>
     </message>
     <message>
         <source>About Quillmere Drive</source>
@@ -156,8 +156,8 @@
         <translation>未運作</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>刪除</translation>
+        <source>Deleted</source>
+        <translation>已刪除</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>This file was changed on the computer and on the NAS at the same time, and the conflict could not be resolved.</source>
-        <translation>此檔案同時在電腦和 NAS 上遭到變更，無法解決衝突。</translation>
+        <translation>此檔案同時在電腦和 NAS 上變更，無法解決衝突。</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Link again</source>
-        <translation>重新連結</translation>
+        <translation>重新關聯</translation>
     </message>
     <message>
         <source>Select how you want to sync files between this computer and your NAS. You can add more sync tasks later.</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>This computer is now linked to your NAS. Syncing starts as soon as you close the wizard.</source>
-        <translation>這部電腦已連結至您的 NAS。關閉精靈後即會開始同步。</translation>
+        <translation>這部電腦已與您的 NAS 關聯。關閉精靈後即會開始同步。</translation>
     </message>
     <message>
         <source>Enable sync for this shared folder</source>
@@ -313,10 +313,10 @@
     </message>
     <message>
         <source>This computer is already linked to the same NAS. Edit the existing connection instead.</source>
-        <translation>這部電腦已連結至同一部 NAS。請改為編輯現有的連線。</translation>
+        <translation>這部電腦已與同一部 NAS 關聯。請改為編輯現有的連線。</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>%1 個項目</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>更多詳細資訊</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>在此取消勾選的資料夾將從這部電腦移除，NAS 上的複本則會保留。要繼續嗎？</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>狀態</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>複製到</translation>
+        <source>Copy to:</source>
+        <translation>複製到：</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>此位址的 NAS 並非這部電腦先前連結的 NAS。請檢查位址，或重新連結這部電腦。</translation>
+        <translation>此位址的 NAS 並非這部電腦先前關聯的 NAS。請檢查位址，或重新關聯這部電腦。</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The folder home\Quillmere on your NAS has already been linked to this PC. We will launch the synced folder when you click Done. Or you can set up a seperate task: %1</source>
-        <translation>您 NAS 上的資料夾 home\Quillmere 已連結至這部電腦。按一下「完成」後，將會開啟同步資料夾。您也可以設定另一個同步工作：%1</translation>
+        <translation>您 NAS 上的資料夾 home\Quillmere 已與這部電腦關聯。按一下「完成」後，將會開啟同步資料夾。您也可以設定另一個同步工作：%1</translation>
     </message>
     <message>
         <source>The port number is invalid. Enter a number from 1 to 65535.</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Welcome to Quillmere Drive. This wizard will help you link this computer to your NAS.</source>
-        <translation>歡迎使用 Quillmere Drive。此精靈將協助您把這部電腦連結至 NAS。</translation>
+        <translation>歡迎使用 Quillmere Drive。此精靈將協助您將這部電腦與 NAS 關聯。</translation>
     </message>
     <message>
         <source>Show icon overlays on synced files and folders</source>
@@ -584,12 +584,12 @@
         <translation>最後一頁</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>時間</translation>
+        <source>Date and time</source>
+        <translation>日期和時間</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>重新命名</translation>
+        <source>Renamed</source>
+        <translation>已重新命名</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>Link to a new NAS</source>
-        <translation>連結至新的 NAS</translation>
+        <translation>關聯新的 NAS</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>此位址的 NAS 已變更。請重新連結這部電腦。</translation>
+        <translation>此位址的 NAS 已變更。請重新關聯這部電腦。</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -912,12 +912,12 @@
         <translation>與其他 NAS 同步</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>在電腦上建立 Quillmere 資料夾，並與 Orvane NAS 上的 home 資料夾保持同步。（建議用於個人用途）</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>在電腦上建立 Quillmere 資料夾，並與 Orvane NAS 上您的 home 資料夾保持同步（建議用於個人用途）。</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>按一下這裡以更新</translation>
+        <source>Click here to upgrade</source>
+        <translation>按一下這裡以升級</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,8 +1020,8 @@
         <translation>還原至先前的版本</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>上傳</translation>
+        <source>Uploaded</source>
+        <translation>已上傳</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1041,15 +1041,15 @@
     </message>
     <message>
         <source>Link this computer to your NAS in just a few steps.</source>
-        <translation>只需幾個步驟，即可將這部電腦連結至您的 NAS。</translation>
+        <translation>只需幾個步驟，即可將這部電腦與您的 NAS 關聯。</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
         <translation>完成(&amp;F)</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>啟用 SSL 資料傳輸加密</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>使用 SSL 加密連線</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>NAS 的 SSL 憑證已變更。選取資料夾之前，請先確認新的憑證。</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>取消連結</translation>
+        <source>Remove</source>
+        <translation>移除</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>找不到共用資料夾</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>取消關聯</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1220,10 +1224,6 @@
         <translation>使用 RapidHail 連線</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>使用 SSL 加密連線</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}[ProductName] 安裝精靈已提前結束</translation>
     </message>
@@ -1269,10 +1269,10 @@
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation>正在取消連結...</translation>
+        <translation>正在取消關聯...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>不關閉應用程式（需要重新啟動電腦）(&amp;L)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>最近變更的檔案</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>取消連結此連線</translation>
+        <source>Unlink from the NAS</source>
+        <translation>取消與 NAS 的關聯</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,8 +1380,8 @@
         <translation>直接連線</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>下載</translation>
+        <source>Downloaded</source>
+        <translation>已下載</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1480,8 +1480,8 @@
         <translation>往前 %1 頁</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>OTP 無效。請檢查驗證碼，然後再試一次。</translation>
+        <source>The verification code is invalid. Please check the code and try again.</source>
+        <translation>驗證碼無效。請檢查驗證碼，然後再試一次。</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1496,16 +1496,16 @@
         <translation>在檔案篩選器排除的檔案上顯示圖示覆疊</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>新增另一個同步工作</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>要同步的檔案</translation>
     </message>
     <message>
         <source>File</source>
         <translation>檔案</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>共用連結</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>否(&amp;N)</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>按一下「修復」，修正遺失或損毀的檔案、捷徑和登錄項目。按一下「上一步」，檢查您的選擇。</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>按一下「修復」，還原遺失或損毀的檔案、捷徑和登錄項目。按一下「上一步」，檢查您的選擇。</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,8 +1580,8 @@
         <translation>不要再顯示此訊息</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>修正遺失或損毀的檔案、捷徑和登錄項目，以修復最近一次安裝中的錯誤。</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>還原遺失或損毀的檔案、捷徑和登錄項目，以修復最近一次安裝中的錯誤。</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
@@ -1633,11 +1633,11 @@
     </message>
     <message>
         <source>Blocked by:</source>
-        <translation>受阻原因：</translation>
+        <translation>封鎖來源：</translation>
     </message>
     <message>
         <source>This computer is linked to your NAS, and your files are now being synced.</source>
-        <translation>這部電腦已連結至您的 NAS，現在正在同步您的檔案。</translation>
+        <translation>這部電腦已與您的 NAS 關聯，現在正在同步您的檔案。</translation>
     </message>
     <message>
         <source>The RapidHail ID is invalid or does not exist.</source>
@@ -1688,10 +1688,6 @@
         <translation>變更已安裝的功能</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>連線詳細資訊</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>如果您不再需要此程式，可以立即移除。已同步的檔案會保留在這部電腦上。</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>選取的資料夾為唯讀。請選擇您可以寫入的資料夾。</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>確定要取消連結同步工作「%1」嗎？這部電腦和 NAS 上的檔案都會保留。</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>確定要移除同步工作「%1」嗎？這部電腦和 NAS 上的檔案都會保留。</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,8 +1736,8 @@
         <translation>Quillmere Drive 可讓您電腦上的資料夾與 Orvane NAS 保持同步。</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
-        <translation>輸入 OTP</translation>
+        <source>Enter the verification code</source>
+        <translation>輸入驗證碼</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1761,7 +1757,7 @@
     </message>
     <message>
         <source>Folder already linked</source>
-        <translation>資料夾已連結</translation>
+        <translation>資料夾已關聯</translation>
     </message>
     <message>
         <source>The maximum length of this field is %1 characters.</source>
@@ -1773,7 +1769,7 @@
     </message>
     <message>
         <source>Are you sure you want to unlink this computer from &quot;%1&quot;? Syncing will stop, but your files will be kept.</source>
-        <translation>確定要取消這部電腦與「%1」的連結嗎？同步將會停止，但您的檔案會保留。</translation>
+        <translation>確定要取消這部電腦與「%1」的關聯嗎？同步將會停止，但您的檔案會保留。</translation>
     </message>
     <message>
         <source>Advanced setup</source>
@@ -1784,8 +1780,8 @@
         <translation>自訂範圍</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>您的同步工作已達 %1 個的上限。請先取消連結某個同步工作，再新增其他同步工作。</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>您的同步工作已達 %1 個的上限。請先移除某個同步工作，再新增其他同步工作。</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,8 +1812,8 @@
         <translation>讓這部電腦與 NAS 之間的檔案保持同步，無論身在何處都能隨時存取。</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>您的帳戶受雙重驗證保護。請輸入 OTP 以繼續。</translation>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
+        <translation>您的帳戶受雙重驗證保護。請輸入驗證碼以繼續。</translation>
     </message>
     <message>
         <source>Edit file filter</source>
@@ -1876,6 +1872,10 @@
         <translation>安裝精靈已準備好開始安裝。</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>刪除</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>正在同步 %1 個檔案</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>修復目前的安裝</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>正在更新...</translation>
+        <source>Upgrading...</source>
+        <translation>正在升級...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

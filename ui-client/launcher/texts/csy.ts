@@ -36,8 +36,8 @@
         <translation>Ukončit</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Sdílet odkaz</translation>
+        <source>Sharing link</source>
+        <translation>Odkaz ke sdílení</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Místní databázi synchronizace nelze načíst. Restartujte aplikaci Quillmere Drive. Pokud potíže přetrvají, propojte tento počítač znovu.</translation>
+        <translation>Místní databázi synchronizace nelze načíst. Restartujte aplikaci Quillmere Drive. Pokud potíže přetrvají, propojte tento počítač znovu se zařízením NAS.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -156,8 +156,8 @@
         <translation>Neaktivní</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Odstranit</translation>
+        <source>Deleted</source>
+        <translation>Odstraněno</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -316,7 +316,7 @@
         <translation>Tento počítač je již propojen se stejným zařízením NAS. Upravte místo toho stávající připojení.</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>Počet položek: %1</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>Další podrobnosti</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>Složky, jejichž výběr zde zrušíte, budou z tohoto počítače odebrány. Kopie na zařízení NAS zůstanou zachovány. Chcete pokračovat?</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>Stav</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Kopírovat do umístění</translation>
+        <source>Copy to:</source>
+        <translation>Kopírovat do umístění:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>Na této adrese je jiné zařízení NAS než to, se kterým byl počítač propojen. Zkontrolujte adresu nebo počítač propojte znovu.</translation>
+        <translation>Na této adrese je jiné zařízení NAS než to, se kterým byl počítač propojen. Zkontrolujte adresu nebo počítač propojte znovu se zařízením NAS.</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -584,12 +584,12 @@
         <translation>Poslední stránka</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Čas</translation>
+        <source>Date and time</source>
+        <translation>Datum a čas</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Přejmenovat</translation>
+        <source>Renamed</source>
+        <translation>Přejmenováno</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>Zařízení NAS na této adrese se změnilo. Propojte tento počítač znovu.</translation>
+        <translation>Zařízení NAS na této adrese se změnilo. Propojte tento počítač znovu se zařízením NAS.</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -912,12 +912,12 @@
         <translation>Synchronizovat s jiným zařízením NAS</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>V počítači se vytvoří složka Quillmere, která se bude synchronizovat s vaší domovskou složkou na zařízení NAS Orvane. (Doporučeno pro osobní použití)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>V počítači se vytvoří složka Quillmere, která se bude synchronizovat s vaší domovskou složkou na zařízení NAS Orvane (doporučeno pro osobní použití).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Kliknutím sem spustíte aktualizaci</translation>
+        <source>Click here to upgrade</source>
+        <translation>Kliknutím sem spustíte upgrade</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,8 +1020,8 @@
         <translation>Návrat ke starší verzi</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Nahrát</translation>
+        <source>Uploaded</source>
+        <translation>Nahráno</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1048,8 +1048,8 @@
         <translation>D&amp;okončit</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>Povolit šifrování SSL při přenosu dat</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>Šifrovat připojení pomocí SSL</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>Certifikát SSL zařízení NAS se změnil. Než vyberete složku, potvrďte nový certifikát.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Zrušit propojení</translation>
+        <source>Remove</source>
+        <translation>Odebrat</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>Sdílená složka nenalezena</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Zrušit propojení</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1141,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Můžete určit složku v počítači, která se bude synchronizovat se sdílenou složkou na zařízení NAS Orvane. (Doporučeno pro týmovou spolupráci).</translation>
+        <translation>Můžete určit složku v počítači, která se bude synchronizovat se sdílenou složkou na zařízení NAS Orvane (doporučeno pro týmovou spolupráci).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1220,10 +1224,6 @@
         <translation>Použít připojení RapidHail</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>Šifrovat připojení pomocí SSL</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}Průvodce instalací aplikace [ProductName] byl předčasně ukončen</translation>
     </message>
@@ -1272,7 +1272,7 @@
         <translation>Rušení propojení...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>&amp;Ponechat aplikace spuštěné (bude nutné restartovat počítač)</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Nedávno změněné soubory</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
+        <source>Unlink from the NAS</source>
         <translation>Zrušit propojení se zařízením NAS</translation>
     </message>
     <message>
@@ -1380,8 +1380,8 @@
         <translation>Přímé připojení</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Stáhnout</translation>
+        <source>Downloaded</source>
+        <translation>Staženo</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1480,7 +1480,7 @@
         <translation>O %1 str. zpět</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
+        <source>The verification code is invalid. Please check the code and try again.</source>
         <translation>Ověřovací kód je neplatný. Zkontrolujte ho a zkuste to znovu.</translation>
     </message>
     <message>
@@ -1496,16 +1496,16 @@
         <translation>Zobrazovat překryvné ikony u souborů vyloučených filtrem souborů</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Přidat další úlohu synchronizace</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>Soubory k synchronizaci</translation>
     </message>
     <message>
         <source>File</source>
         <translation>Soubor</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Sdílet odkaz</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>&amp;Ne</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Kliknutím na tlačítko „Opravit“ opravíte chybějící nebo poškozené soubory, zástupce a položky registru. Chcete-li volbu změnit, klikněte na tlačítko „Zpět“.</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>Kliknutím na tlačítko „Opravit“ obnovíte chybějící nebo poškozené soubory, zástupce a položky registru. Chcete-li volbu změnit, klikněte na tlačítko „Zpět“.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,8 +1580,8 @@
         <translation>Tuto zprávu již nezobrazovat</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>Opraví chyby v poslední instalaci: chybějící nebo poškozené soubory, zástupce a položky registru.</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>Opraví chyby v poslední instalaci: obnoví chybějící nebo poškozené soubory, zástupce a položky registru.</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
@@ -1688,10 +1688,6 @@
         <translation>Změnit nainstalované součásti</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Podrobnosti o připojení</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Pokud program již nepotřebujete, můžete ho nyní odebrat. Synchronizované soubory v tomto počítači zůstanou.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>Vybraná složka je jen pro čtení. Vyberte složku, do které můžete zapisovat.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>Opravdu chcete zrušit propojení úlohy synchronizace „%1“? Soubory v tomto počítači i na zařízení NAS zůstanou zachovány.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>Opravdu chcete odebrat úlohu synchronizace „%1“? Soubory v tomto počítači i na zařízení NAS zůstanou zachovány.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,7 +1736,7 @@
         <translation>Quillmere Drive synchronizuje složky ve vašich počítačích se zařízením NAS Orvane.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
+        <source>Enter the verification code</source>
         <translation>Zadejte ověřovací kód</translation>
     </message>
     <message>
@@ -1784,8 +1780,8 @@
         <translation>Vlastní rozsah</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>Byl dosažen maximální počet úloh synchronizace (%1). Než přidáte další, zrušte propojení některé z nich.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>Byl dosažen maximální počet úloh synchronizace (%1). Než přidáte další, odeberte některou z nich.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,7 +1812,7 @@
         <translation>Synchronizujte soubory mezi tímto počítačem a zařízením NAS a mějte je po ruce, ať jste kdekoli.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
         <translation>Váš účet je chráněn dvoufaktorovým ověřením. Chcete-li pokračovat, zadejte ověřovací kód.</translation>
     </message>
     <message>
@@ -1876,6 +1872,10 @@
         <translation>Průvodce instalací je připraven zahájit instalaci.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Odstranit</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>Synchronizace souborů: %1</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>Opravit stávající instalaci</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Aktualizace...</translation>
+        <source>Upgrading...</source>
+        <translation>Probíhá upgrade...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

@@ -36,8 +36,8 @@
         <translation>Afslut</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Del link</translation>
+        <source>Sharing link</source>
+        <translation>Delingslink</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -156,8 +156,8 @@
         <translation>Inaktiv</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Slet</translation>
+        <source>Deleted</source>
+        <translation>Slettet</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -316,7 +316,7 @@
         <translation>Denne computer er allerede tilknyttet den samme NAS. Rediger den eksisterende forbindelse i stedet.</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>%1 element(er)</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>Flere detaljer</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>Mapper, som du fravælger her, fjernes fra denne computer. Kopierne på NAS-enheden beholdes. Vil du fortsætte?</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>Status</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Kopier til</translation>
+        <source>Copy to:</source>
+        <translation>Kopier til:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -584,12 +584,12 @@
         <translation>Sidste side</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Tidspunkt</translation>
+        <source>Date and time</source>
+        <translation>Dato og klokkeslæt</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Omdøb</translation>
+        <source>Renamed</source>
+        <translation>Omdøbt</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -912,12 +912,12 @@
         <translation>Synkroniser med en anden NAS</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>Opretter en Quillmere-mappe på computeren og holder den synkroniseret med din hjemmemappe på din Orvane NAS. (Anbefales til personlig brug)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>Opretter en Quillmere-mappe på computeren og holder den synkroniseret med din hjemmemappe på din Orvane NAS (anbefales til personlig brug).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Klik her for at opdatere</translation>
+        <source>Click here to upgrade</source>
+        <translation>Klik her for at opgradere</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,8 +1020,8 @@
         <translation>Gå tilbage til en tidligere version</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Upload</translation>
+        <source>Uploaded</source>
+        <translation>Uploadet</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1048,8 +1048,8 @@
         <translation>&amp;Udfør</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>Aktiver SSL-kryptering af dataoverførsel</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>Krypter forbindelsen med SSL</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>NAS-enhedens SSL-certifikat er blevet ændret. Bekræft det nye certifikat, før du vælger en mappe.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Fjern tilknytning</translation>
+        <source>Remove</source>
+        <translation>Fjern</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>Den delte mappe blev ikke fundet</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Fjern tilknytning</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1141,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Her kan du angive en mappe på computeren, som skal holdes synkroniseret med en delt mappe på din Orvane NAS. (Anbefales til teamarbejde).</translation>
+        <translation>Her kan du angive en mappe på computeren, som skal holdes synkroniseret med en delt mappe på din Orvane NAS (anbefales til teamarbejde).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1220,10 +1224,6 @@
         <translation>Brug en RapidHail-forbindelse</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>Krypter forbindelsen med SSL</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}Installationsguiden til [ProductName] blev afsluttet før tid</translation>
     </message>
@@ -1272,7 +1272,7 @@
         <translation>Fjerner tilknytning...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>Lad programmerne være å&amp;bne (genstart er påkrævet)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>Senest ændrede filer</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>Fjern tilknytning af forbindelse</translation>
+        <source>Unlink from the NAS</source>
+        <translation>Fjern tilknytningen til NAS-enheden</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,8 +1380,8 @@
         <translation>Direkte forbindelse</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Download</translation>
+        <source>Downloaded</source>
+        <translation>Downloadet</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1480,8 +1480,8 @@
         <translation>De forrige %1 sider</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>Engangskoden er ugyldig. Kontroller koden, og prøv igen.</translation>
+        <source>The verification code is invalid. Please check the code and try again.</source>
+        <translation>Bekræftelseskoden er ugyldig. Kontroller koden, og prøv igen.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1496,16 +1496,16 @@
         <translation>Vis ikonoverlejringer på filer, der er udeladt af filfilteret</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Tilføj en synkroniseringsopgave mere</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>Filer, der skal synkroniseres</translation>
     </message>
     <message>
         <source>File</source>
         <translation>Fil</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Del link</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>N&amp;ej</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Klik på &quot;Reparer&quot; for at rette manglende eller beskadigede filer, genveje og poster i registreringsdatabasen. Klik på &quot;Tilbage&quot; for at gennemse dit valg.</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>Klik på &quot;Reparer&quot; for at gendanne manglende eller beskadigede filer, genveje og poster i registreringsdatabasen. Klik på &quot;Tilbage&quot; for at gennemse dit valg.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,8 +1580,8 @@
         <translation>Vis ikke denne meddelelse igen</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>Reparerer fejl i den seneste installation ved at rette manglende eller beskadigede filer, genveje og poster i registreringsdatabasen.</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>Reparerer fejl i den seneste installation ved at gendanne manglende eller beskadigede filer, genveje og poster i registreringsdatabasen.</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
@@ -1688,10 +1688,6 @@
         <translation>Rediger de installerede funktioner</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Forbindelsesdetaljer</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Hvis du ikke længere har brug for programmet, kan du fjerne det nu. Dine synkroniserede filer beholdes på computeren.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>Den valgte mappe er skrivebeskyttet. Vælg en mappe, du kan skrive til.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>Er du sikker på, at du vil fjerne tilknytningen af synkroniseringsopgaven &quot;%1&quot;? Filerne på computeren og på NAS-enheden beholdes.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>Er du sikker på, at du vil fjerne synkroniseringsopgaven &quot;%1&quot;? Filerne på computeren og på NAS-enheden beholdes.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,8 +1736,8 @@
         <translation>Quillmere Drive holder mapperne på dine computere synkroniseret med din Orvane NAS.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
-        <translation>Indtast engangskoden</translation>
+        <source>Enter the verification code</source>
+        <translation>Indtast bekræftelseskoden</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1784,8 +1780,8 @@
         <translation>Brugerdefineret interval</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>Du har nået grænsen på %1 synkroniseringsopgaver. Fjern tilknytningen af en synkroniseringsopgave, før du tilføjer en ny.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>Du har nået grænsen på %1 synkroniseringsopgaver. Fjern en synkroniseringsopgave, før du tilføjer en ny.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,8 +1812,8 @@
         <translation>Hold dine filer synkroniseret mellem denne computer og din NAS, og få adgang til dem, uanset hvor du er.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>Din konto er beskyttet med tofaktorgodkendelse. Indtast engangskoden for at fortsætte.</translation>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
+        <translation>Din konto er beskyttet med tofaktorgodkendelse. Indtast bekræftelseskoden for at fortsætte.</translation>
     </message>
     <message>
         <source>Edit file filter</source>
@@ -1876,6 +1872,10 @@
         <translation>Installationsguiden er klar til at starte installationen.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Slet</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>Synkroniserer %1 fil(er)</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>Reparer den aktuelle installation</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Opdaterer...</translation>
+        <source>Upgrading...</source>
+        <translation>Opgraderer...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

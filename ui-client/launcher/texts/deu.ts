@@ -36,8 +36,8 @@
         <translation>Beenden</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Link freigeben</translation>
+        <source>Sharing link</source>
+        <translation>Freigabelink</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Die lokale Synchronisierungsdatenbank kann nicht gelesen werden. Starten Sie Quillmere Drive neu. Wenn das Problem weiterhin besteht, verknüpfen Sie diesen Computer erneut.</translation>
+        <translation>Die lokale Synchronisierungsdatenbank kann nicht gelesen werden. Starten Sie Quillmere Drive neu. Wenn das Problem weiterhin besteht, verknüpfen Sie diesen Computer erneut mit dem NAS.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Every file you put in a synced folder is copied to your NAS automatically. Just save your work and let Quillmere Drive do the rest.</source>
-        <translation>Jede Datei, die Sie in einem synchronisierten Ordner ablegen, wird automatisch auf Ihr NAS kopiert. Sie speichern einfach Ihre Arbeit und Quillmere Drive erledigt den Rest.</translation>
+        <translation>Jede Datei, die Sie in einem synchronisierten Ordner ablegen, wird automatisch auf Ihr NAS kopiert. Speichern Sie einfach Ihre Arbeit – den Rest erledigt Quillmere Drive.</translation>
     </message>
     <message>
         <source>&amp;Retry</source>
@@ -156,8 +156,8 @@
         <translation>Inaktiv</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Löschen</translation>
+        <source>Deleted</source>
+        <translation>Gelöscht</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>The download failed. Please try again later.</source>
-        <translation>Das Herunterladen ist fehlgeschlagen. Bitte versuchen Sie es später erneut.</translation>
+        <translation>Der Download ist fehlgeschlagen. Bitte versuchen Sie es später erneut.</translation>
     </message>
     <message>
         <source>Setup is complete.</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>Download complete</source>
-        <translation>Herunterladen abgeschlossen</translation>
+        <translation>Download abgeschlossen</translation>
     </message>
     <message>
         <source>Resume syncing this folder</source>
@@ -316,8 +316,8 @@
         <translation>Dieser Computer ist bereits mit demselben NAS verknüpft. Bearbeiten Sie stattdessen die vorhandene Verbindung.</translation>
     </message>
     <message>
-        <source>%1 items</source>
-        <translation>%1 Elemente</translation>
+        <source>%1 item(s)</source>
+        <translation>%1 Element(e)</translation>
     </message>
     <message>
         <source>Pause connection</source>
@@ -336,7 +336,7 @@
         <translation>Weitere Details</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>Ordner, deren Auswahl Sie hier aufheben, werden von diesem Computer entfernt. Die Kopien auf dem NAS bleiben erhalten. Möchten Sie fortfahren?</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>Status</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Kopieren nach</translation>
+        <source>Copy to:</source>
+        <translation>Kopieren nach:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>Das NAS unter dieser Adresse ist nicht dasjenige, mit dem dieser Computer verknüpft wurde. Prüfen Sie die Adresse oder verknüpfen Sie den Computer erneut.</translation>
+        <translation>Das NAS unter dieser Adresse ist nicht dasjenige, mit dem dieser Computer verknüpft wurde. Prüfen Sie die Adresse oder verknüpfen Sie den Computer erneut mit dem NAS.</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -393,7 +393,7 @@
     </message>
     <message>
         <source>Add sync task</source>
-        <translation>Aufgabe hinzufügen</translation>
+        <translation>Synchronisierungsaufgabe hinzufügen</translation>
     </message>
     <message>
         <source>Start date</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>The administrator requires two-factor verification for your account. Sign in to the NAS in a web browser and set it up first.</source>
-        <translation>Der Administrator verlangt für Ihr Konto die Zwei-Faktor-Verifizierung. Melden Sie sich zuerst in einem Webbrowser am NAS an und richten Sie die Verifizierung dort ein.</translation>
+        <translation>Der Administrator verlangt für Ihr Konto die Zwei-Faktor-Authentifizierung. Melden Sie sich zuerst in einem Webbrowser am NAS an und richten Sie sie dort ein.</translation>
     </message>
     <message>
         <source>The sync direction of this folder does not match the permissions on the NAS. Please change the sync direction.</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>Open containing folder</source>
-        <translation>Ordner der Datei öffnen</translation>
+        <translation>Dateispeicherort öffnen</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be selected separately.</source>
@@ -584,12 +584,12 @@
         <translation>Letzte Seite</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Zeit</translation>
+        <source>Date and time</source>
+        <translation>Datum und Uhrzeit</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Umbenennen</translation>
+        <source>Renamed</source>
+        <translation>Umbenannt</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>Das NAS unter dieser Adresse hat sich geändert. Bitte verknüpfen Sie diesen Computer erneut.</translation>
+        <translation>Das NAS unter dieser Adresse hat sich geändert. Bitte verknüpfen Sie diesen Computer erneut mit dem NAS.</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -912,12 +912,12 @@
         <translation>Mit einem anderen NAS synchronisieren</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>Erstellt einen Quillmere-Ordner auf Ihrem Computer und hält ihn mit Ihrem Home-Ordner auf dem Orvane-NAS synchron. (Für die private Nutzung empfohlen)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>Damit wird auf Ihrem Computer ein Quillmere-Ordner erstellt und mit Ihrem Home-Ordner auf Ihrem Orvane-NAS synchron gehalten (für die private Nutzung empfohlen).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Zum Aktualisieren hier klicken</translation>
+        <source>Click here to upgrade</source>
+        <translation>Für das Upgrade hier klicken</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,8 +1020,8 @@
         <translation>Zu einer früheren Version zurückkehren</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Hochladen</translation>
+        <source>Uploaded</source>
+        <translation>Hochgeladen</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1048,8 +1048,8 @@
         <translation>&amp;Fertigstellen</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>SSL-Verschlüsselung für die Datenübertragung aktivieren</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>Verbindung mit SSL verschlüsseln</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>Das SSL-Zertifikat des NAS hat sich geändert. Bestätigen Sie das neue Zertifikat, bevor Sie einen Ordner auswählen.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Verknüpfung aufheben</translation>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>Freigegebener Ordner nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Verknüpfung aufheben</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1101,7 +1105,7 @@
     </message>
     <message>
         <source>SSL certificate warning</source>
-        <translation>SSL-Zertifikatwarnung</translation>
+        <translation>Warnung zum SSL-Zertifikat</translation>
     </message>
     <message>
         <source>Share files with a link</source>
@@ -1220,10 +1224,6 @@
         <translation>RapidHail-Verbindung verwenden</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>Verbindung mit SSL verschlüsseln</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}Der Setup-Assistent für [ProductName] wurde vorzeitig beendet</translation>
     </message>
@@ -1272,7 +1272,7 @@
         <translation>Verknüpfung wird aufgehoben ...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>&amp;Anwendungen geöffnet lassen (Neustart erforderlich)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>Zuletzt geänderte Dateien</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>Verknüpfung mit NAS aufheben</translation>
+        <source>Unlink from the NAS</source>
+        <translation>Verknüpfung mit dem NAS aufheben</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,8 +1380,8 @@
         <translation>Direktverbindung</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Herunterladen</translation>
+        <source>Downloaded</source>
+        <translation>Heruntergeladen</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1405,7 +1405,7 @@
     </message>
     <message>
         <source>The download was canceled.</source>
-        <translation>Das Herunterladen wurde abgebrochen.</translation>
+        <translation>Der Download wurde abgebrochen.</translation>
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</source>
@@ -1480,8 +1480,8 @@
         <translation>Vorherige %1 Seiten</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>Das OTP ist ungültig. Bitte prüfen Sie den Code und versuchen Sie es erneut.</translation>
+        <source>The verification code is invalid. Please check the code and try again.</source>
+        <translation>Der Verifizierungscode ist ungültig. Bitte prüfen Sie den Code und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1496,16 +1496,16 @@
         <translation>Symbolüberlagerungen für vom Dateifilter ausgeschlossene Dateien anzeigen</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Weitere Synchronisierungsaufgabe hinzufügen</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>Zu synchronisierende Dateien</translation>
     </message>
     <message>
         <source>File</source>
         <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Link freigeben</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>&amp;Nein</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Klicken Sie auf „Reparieren“, um fehlende oder beschädigte Dateien, Verknüpfungen und Registrierungseinträge zu reparieren. Klicken Sie auf „Zurück“, um Ihre Auswahl zu überprüfen.</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>Klicken Sie auf „Reparieren“, um fehlende oder beschädigte Dateien, Verknüpfungen und Registrierungseinträge wiederherzustellen. Klicken Sie auf „Zurück“, um Ihre Auswahl zu überprüfen.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,8 +1580,8 @@
         <translation>Diese Meldung nicht mehr anzeigen</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>Behebt Fehler der letzten Installation, indem fehlende oder beschädigte Dateien, Verknüpfungen und Registrierungseinträge repariert werden.</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>Behebt Fehler der letzten Installation, indem fehlende oder beschädigte Dateien, Verknüpfungen und Registrierungseinträge wiederhergestellt werden.</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
@@ -1688,10 +1688,6 @@
         <translation>Installierte Funktionen ändern</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Verbindungsdetails</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Wenn Sie das Programm nicht mehr benötigen, können Sie es jetzt entfernen. Ihre synchronisierten Dateien bleiben auf diesem Computer erhalten.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>Der ausgewählte Ordner ist schreibgeschützt. Bitte wählen Sie einen Ordner, in den Sie schreiben können.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>Möchten Sie die Verknüpfung der Synchronisierungsaufgabe „%1“ wirklich aufheben? Die Dateien auf diesem Computer und auf dem NAS bleiben erhalten.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>Möchten Sie die Synchronisierungsaufgabe „%1“ wirklich entfernen? Die Dateien auf diesem Computer und auf dem NAS bleiben erhalten.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,8 +1736,8 @@
         <translation>Quillmere Drive hält die Ordner auf Ihren Computern mit Ihrem Orvane-NAS synchron.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
-        <translation>OTP eingeben</translation>
+        <source>Enter the verification code</source>
+        <translation>Verifizierungscode eingeben</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1784,8 +1780,8 @@
         <translation>Benutzerdefinierter Zeitraum</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>Sie haben die maximale Anzahl von %1 Synchronisierungsaufgaben erreicht. Heben Sie die Verknüpfung einer Synchronisierungsaufgabe auf, bevor Sie eine weitere hinzufügen.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>Sie haben die maximale Anzahl von %1 Synchronisierungsaufgaben erreicht. Entfernen Sie eine Synchronisierungsaufgabe, bevor Sie eine weitere hinzufügen.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,8 +1812,8 @@
         <translation>Halten Sie Ihre Dateien auf diesem Computer und Ihrem NAS synchron und greifen Sie von überall darauf zu.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>Ihr Konto ist durch die Zwei-Faktor-Verifizierung geschützt. Bitte geben Sie das OTP ein, um fortzufahren.</translation>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
+        <translation>Ihr Konto ist durch die Zwei-Faktor-Authentifizierung geschützt. Bitte geben Sie den Verifizierungscode ein, um fortzufahren.</translation>
     </message>
     <message>
         <source>Edit file filter</source>
@@ -1876,6 +1872,10 @@
         <translation>Der Setup-Assistent ist bereit, mit der Installation zu beginnen.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>%1 Datei(en) werden synchronisiert</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>Aktuelle Installation reparieren</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Wird aktualisiert ...</translation>
+        <source>Upgrading...</source>
+        <translation>Upgrade wird durchgeführt ...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

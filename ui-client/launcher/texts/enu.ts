@@ -36,8 +36,8 @@
         <translation>Exit</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Share link</translation>
+        <source>Sharing link</source>
+        <translation>Sharing link</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -156,8 +156,8 @@
         <translation>Inactive</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Delete</translation>
+        <source>Deleted</source>
+        <translation>Deleted</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -316,8 +316,8 @@
         <translation>This computer is already linked to the same NAS. Edit the existing connection instead.</translation>
     </message>
     <message>
-        <source>%1 items</source>
-        <translation>%1 items</translation>
+        <source>%1 item(s)</source>
+        <translation>%1 item(s)</translation>
     </message>
     <message>
         <source>Pause connection</source>
@@ -336,8 +336,8 @@
         <translation>More details</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
-        <translation>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</translation>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <translation>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</translation>
     </message>
     <message>
         <source>October</source>
@@ -372,8 +372,8 @@
         <translation>Status</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Copy to</translation>
+        <source>Copy to:</source>
+        <translation>Copy to:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -584,12 +584,12 @@
         <translation>Last page</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Time</translation>
+        <source>Date and time</source>
+        <translation>Date and time</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Rename</translation>
+        <source>Renamed</source>
+        <translation>Renamed</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -912,12 +912,12 @@
         <translation>Sync with another NAS</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Click here to update</translation>
+        <source>Click here to upgrade</source>
+        <translation>Click here to upgrade</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,8 +1020,8 @@
         <translation>Go back to an earlier version</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Upload</translation>
+        <source>Uploaded</source>
+        <translation>Uploaded</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1048,8 +1048,8 @@
         <translation>&amp;Finish</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>Enable SSL encryption for data transfer</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>Encrypt the connection with SSL</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>The SSL certificate of the NAS has changed. Confirm the new certificate before you select a folder.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Unlink</translation>
+        <source>Remove</source>
+        <translation>Remove</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>Shared folder not found</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Unlink</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1220,10 +1224,6 @@
         <translation>Use a RapidHail connection</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>Encrypt the connection with SSL</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</translation>
     </message>
@@ -1272,8 +1272,8 @@
         <translation>Unlinking...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
-        <translation>&amp;Leave applications open (a restart will be required)</translation>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
+        <translation>&amp;Leave the applications open (a restart will be required)</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
@@ -1308,8 +1308,8 @@
         <translation>Recently changed files</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>Unlink connection</translation>
+        <source>Unlink from the NAS</source>
+        <translation>Unlink from the NAS</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,8 +1380,8 @@
         <translation>Direct connection</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Download</translation>
+        <source>Downloaded</source>
+        <translation>Downloaded</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1480,8 +1480,8 @@
         <translation>Previous %1 pages</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>The OTP is invalid. Please check the code and try again.</translation>
+        <source>The verification code is invalid. Please check the code and try again.</source>
+        <translation>The verification code is invalid. Please check the code and try again.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1496,16 +1496,16 @@
         <translation>Show icon overlays on files excluded by the file filter</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Add another sync task</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>Files to sync</translation>
     </message>
     <message>
         <source>File</source>
         <translation>File</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Share link</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>&amp;No</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,8 +1580,8 @@
         <translation>Do not show this message again</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
@@ -1688,10 +1688,6 @@
         <translation>Change the installed features</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Connection details</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>The selected folder is read-only. Please choose a folder that you can write to.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,8 +1736,8 @@
         <translation>Quillmere Drive keeps the folders on your computers in sync with your Orvane NAS.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
-        <translation>Enter the OTP</translation>
+        <source>Enter the verification code</source>
+        <translation>Enter the verification code</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1784,8 +1780,8 @@
         <translation>Custom range</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,8 +1812,8 @@
         <translation>Keep your files in sync between this computer and your NAS, and reach them wherever you are.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>Your account is protected by two-factor verification. Please enter the OTP to continue.</translation>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
+        <translation>Your account is protected by two-factor verification. Please enter the verification code to continue.</translation>
     </message>
     <message>
         <source>Edit file filter</source>
@@ -1876,6 +1872,10 @@
         <translation>The Setup Wizard is ready to begin the installation.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>Syncing %1 file(s)</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>Repair the current installation</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Updating...</translation>
+        <source>Upgrading...</source>
+        <translation>Upgrading...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

@@ -36,8 +36,8 @@
         <translation>Salir</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Compartir enlace</translation>
+        <source>Sharing link</source>
+        <translation>Enlace para compartir</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Enabled</source>
-        <translation>Activado</translation>
+        <translation>Activada</translation>
     </message>
     <message>
         <source>Browse previous versions</source>
@@ -156,8 +156,8 @@
         <translation>Inactiva</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Eliminar</translation>
+        <source>Deleted</source>
+        <translation>Eliminación</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -316,7 +316,7 @@
         <translation>Este equipo ya está vinculado al mismo NAS. Edite la conexión existente.</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>%1 elemento(s)</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>Más detalles</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>Las carpetas que desmarque aquí se quitarán de este equipo. Las copias del NAS se conservarán. ¿Desea continuar?</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>Estado</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Copiar en</translation>
+        <source>Copy to:</source>
+        <translation>Copiar en:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Disabled</source>
-        <translation>Desactivado</translation>
+        <translation>Desactivada</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -584,12 +584,12 @@
         <translation>Última página</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Hora</translation>
+        <source>Date and time</source>
+        <translation>Fecha y hora</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Cambiar nombre</translation>
+        <source>Renamed</source>
+        <translation>Cambio de nombre</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -912,12 +912,12 @@
         <translation>Sincronizar con otro NAS</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>Se creará una carpeta Quillmere en su equipo, que se mantendrá sincronizada con su carpeta personal del NAS de Orvane. (Recomendado para uso personal)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>Se creará una carpeta Quillmere en su equipo, que se mantendrá sincronizada con su carpeta personal del NAS de Orvane (recomendado para uso personal).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Haga clic aquí para actualizar</translation>
+        <source>Click here to upgrade</source>
+        <translation>Haga clic aquí para actualizar la versión</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,8 +1020,8 @@
         <translation>Vuelva a una versión anterior</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Cargar</translation>
+        <source>Uploaded</source>
+        <translation>Carga</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1048,8 +1048,8 @@
         <translation>&amp;Finalizar</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>Activar el cifrado SSL para la transferencia de datos</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>Cifrar la conexión con SSL</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>El certificado SSL del NAS ha cambiado. Confirme el nuevo certificado antes de seleccionar una carpeta.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Desvincular</translation>
+        <source>Remove</source>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>No se encuentra la carpeta compartida</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Desvincular</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1141,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Permite especificar una carpeta de su equipo para mantenerla sincronizada con una carpeta compartida de su NAS de Orvane. (Recomendado para el trabajo en equipo).</translation>
+        <translation>Permite especificar una carpeta de su equipo para mantenerla sincronizada con una carpeta compartida de su NAS de Orvane (recomendado para el trabajo en equipo).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1185,7 +1189,7 @@
     </message>
     <message>
         <source>Quick setup</source>
-        <translation>Configuración rápida</translation>
+        <translation>Modo rápido</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1218,10 +1222,6 @@
     <message>
         <source>Use a RapidHail connection</source>
         <translation>Usar una conexión RapidHail</translation>
-    </message>
-    <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>Cifrar la conexión con SSL</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
@@ -1272,7 +1272,7 @@
         <translation>Desvinculando...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>&amp;Dejar abiertas las aplicaciones (será necesario reiniciar)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>Archivos modificados recientemente</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>Desvincular conexión</translation>
+        <source>Unlink from the NAS</source>
+        <translation>Desvincular del NAS</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1333,7 +1333,7 @@
     </message>
     <message>
         <source>Advanced settings</source>
-        <translation>Opciones avanzadas</translation>
+        <translation>Configuración avanzada</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -1380,8 +1380,8 @@
         <translation>Conexión directa</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Descargar</translation>
+        <source>Downloaded</source>
+        <translation>Descarga</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1480,8 +1480,8 @@
         <translation>%1 páginas anteriores</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>El código de verificación (OTP) no es válido. Compruebe el código e inténtelo de nuevo.</translation>
+        <source>The verification code is invalid. Please check the code and try again.</source>
+        <translation>El código de verificación no es válido. Compruebe el código e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1496,16 +1496,16 @@
         <translation>Mostrar superposiciones de iconos en los archivos excluidos por el filtro de archivos</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Añadir otra tarea de sincronización</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>Archivos que se sincronizarán</translation>
     </message>
     <message>
         <source>File</source>
         <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Compartir enlace</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>&amp;No</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Haga clic en «Reparar» para corregir los archivos, accesos directos y entradas del Registro que falten o estén dañados. Haga clic en «Atrás» para revisar su elección.</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>Haga clic en «Reparar» para restaurar los archivos, accesos directos y entradas del Registro que falten o estén dañados. Haga clic en «Atrás» para revisar su elección.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,8 +1580,8 @@
         <translation>No volver a mostrar este mensaje</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>Repara los errores de la instalación más reciente corrigiendo los archivos, accesos directos y entradas del Registro que falten o estén dañados.</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>Repara los errores de la instalación más reciente restaurando los archivos, accesos directos y entradas del Registro que falten o estén dañados.</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
@@ -1688,10 +1688,6 @@
         <translation>Cambiar las características instaladas</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Detalles de la conexión</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Si ya no necesita el programa, puede quitarlo ahora. Los archivos sincronizados se conservarán en este equipo.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>La carpeta seleccionada es de solo lectura. Elija una carpeta en la que pueda escribir.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>¿Seguro que desea desvincular la tarea de sincronización «%1»? Los archivos de este equipo y del NAS se conservarán.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>¿Seguro que desea quitar la tarea de sincronización «%1»? Los archivos de este equipo y del NAS se conservarán.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,8 +1736,8 @@
         <translation>Quillmere Drive mantiene las carpetas de sus equipos sincronizadas con su NAS de Orvane.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
-        <translation>Escriba el código de verificación (OTP)</translation>
+        <source>Enter the verification code</source>
+        <translation>Escriba el código de verificación</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1777,15 +1773,15 @@
     </message>
     <message>
         <source>Advanced setup</source>
-        <translation>Configuración avanzada</translation>
+        <translation>Modo avanzado</translation>
     </message>
     <message>
         <source>Custom range</source>
         <translation>Intervalo personalizado</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>Ha alcanzado el máximo de %1 tareas de sincronización. Desvincule una tarea de sincronización antes de añadir otra.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>Ha alcanzado el máximo de %1 tareas de sincronización. Quite una tarea de sincronización antes de añadir otra.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,8 +1812,8 @@
         <translation>Mantenga sus archivos sincronizados entre este equipo y su NAS, y acceda a ellos esté donde esté.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>Su cuenta está protegida con la verificación en dos pasos. Escriba el código de verificación (OTP) para continuar.</translation>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
+        <translation>Su cuenta está protegida con la verificación en dos pasos. Escriba el código de verificación para continuar.</translation>
     </message>
     <message>
         <source>Edit file filter</source>
@@ -1876,6 +1872,10 @@
         <translation>El Asistente de instalación está preparado para comenzar la instalación.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>Sincronizando %1 archivo(s)</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>Reparar la instalación actual</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Actualizando...</translation>
+        <source>Upgrading...</source>
+        <translation>Actualizando la versión...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

@@ -36,7 +36,7 @@
         <translation>Quitter</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Sharing link</source>
         <translation>Lien de partage</translation>
     </message>
     <message>
@@ -153,11 +153,11 @@
     </message>
     <message>
         <source>Inactive</source>
-        <translation>Inactif</translation>
+        <translation>Inactive</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Supprimer</translation>
+        <source>Deleted</source>
+        <translation>Supprimé</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -316,7 +316,7 @@
         <translation>Cet ordinateur est déjà associé au même NAS. Modifiez plutôt la connexion existante.</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>%1 élément(s)</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>Plus de détails</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>Les dossiers que vous décochez ici seront supprimés de cet ordinateur. Les copies présentes sur le NAS seront conservées. Voulez-vous continuer ?</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>État</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Copier vers</translation>
+        <source>Copy to:</source>
+        <translation>Copier vers :</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -393,7 +393,7 @@
     </message>
     <message>
         <source>Add sync task</source>
-        <translation>Ajouter une tâche</translation>
+        <translation>Ajouter une tâche de synchronisation</translation>
     </message>
     <message>
         <source>Start date</source>
@@ -584,12 +584,12 @@
         <translation>Dernière page</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Heure</translation>
+        <source>Date and time</source>
+        <translation>Date et heure</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Renommer</translation>
+        <source>Renamed</source>
+        <translation>Renommé</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Right-click a file and select &quot;Share link&quot; to create a link. Send it to anyone who needs the file, even if they have no account on your NAS.</source>
-        <translation>Cliquez avec le bouton droit sur un fichier et sélectionnez « Lien de partage » pour créer un lien. Envoyez-le à toute personne ayant besoin du fichier, même si elle ne possède pas de compte sur votre NAS.</translation>
+        <translation>Cliquez avec le bouton droit sur un fichier et sélectionnez « Partager le lien » pour créer un lien. Envoyez-le à toute personne ayant besoin du fichier, même si elle ne possède pas de compte sur votre NAS.</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -912,12 +912,12 @@
         <translation>Synchroniser avec un autre NAS</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>Ce mode crée un dossier Quillmere sur votre ordinateur et le maintient synchronisé avec votre dossier personnel sur le NAS Orvane. (Recommandé pour un usage personnel)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>Ce mode crée un dossier Quillmere sur votre ordinateur et le maintient synchronisé avec votre dossier personnel sur le NAS Orvane (recommandé pour un usage personnel).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Cliquez ici pour mettre à jour</translation>
+        <source>Click here to upgrade</source>
+        <translation>Cliquez ici pour mettre à niveau</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,8 +1020,8 @@
         <translation>Revenez à une version antérieure</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Charger</translation>
+        <source>Uploaded</source>
+        <translation>Chargé</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1048,8 +1048,8 @@
         <translation>&amp;Terminer</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>Activer le chiffrement SSL pour le transfert de données</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>Chiffrer la connexion avec SSL</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>Le certificat SSL du NAS a changé. Confirmez le nouveau certificat avant de sélectionner un dossier.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Dissocier</translation>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>Dossier partagé introuvable</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Dissocier</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1141,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Ce mode vous permet de choisir un dossier de votre ordinateur à maintenir synchronisé avec un dossier partagé de votre NAS Orvane. (Recommandé pour le travail en équipe).</translation>
+        <translation>Ce mode vous permet de choisir un dossier de votre ordinateur à maintenir synchronisé avec un dossier partagé de votre NAS Orvane (recommandé pour le travail en équipe).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1220,10 +1224,6 @@
         <translation>Utiliser une connexion RapidHail</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>Chiffrer la connexion avec SSL</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}L&apos;Assistant d&apos;installation de [ProductName] s&apos;est arrêté prématurément</translation>
     </message>
@@ -1272,7 +1272,7 @@
         <translation>Dissociation en cours...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>&amp;Laisser les applications ouvertes (un redémarrage sera nécessaire)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>Fichiers modifiés récemment</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>Dissocier la connexion</translation>
+        <source>Unlink from the NAS</source>
+        <translation>Dissocier du NAS</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,8 +1380,8 @@
         <translation>Connexion directe</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Télécharger</translation>
+        <source>Downloaded</source>
+        <translation>Téléchargé</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1480,7 +1480,7 @@
         <translation>Reculer de %1 page(s)</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
+        <source>The verification code is invalid. Please check the code and try again.</source>
         <translation>Le code de vérification n&apos;est pas valide. Vérifiez-le et réessayez.</translation>
     </message>
     <message>
@@ -1496,16 +1496,16 @@
         <translation>Afficher les superpositions d&apos;icônes sur les fichiers exclus par le filtre de fichiers</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Ajouter une autre tâche de synchronisation</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>Fichiers à synchroniser</translation>
     </message>
     <message>
         <source>File</source>
         <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Partager le lien</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,7 +1568,7 @@
         <translation>&amp;Non</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
         <translation>Cliquez sur « Réparer » pour restaurer les fichiers, raccourcis et entrées de registre manquants ou endommagés. Cliquez sur « Précédent » pour revoir votre choix.</translation>
     </message>
     <message>
@@ -1580,7 +1580,7 @@
         <translation>Ne plus afficher ce message</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Répare les erreurs de l&apos;installation la plus récente en restaurant les fichiers, raccourcis et entrées de registre manquants ou endommagés.</translation>
     </message>
     <message>
@@ -1688,10 +1688,6 @@
         <translation>Modifier les fonctionnalités installées</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Détails de la connexion</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Si vous n&apos;avez plus besoin du programme, vous pouvez le supprimer maintenant. Vos fichiers synchronisés seront conservés sur cet ordinateur.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>Le dossier sélectionné est en lecture seule. Choisissez un dossier accessible en écriture.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>Voulez-vous vraiment dissocier la tâche de synchronisation « %1 » ? Les fichiers présents sur cet ordinateur et sur le NAS seront conservés.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>Voulez-vous vraiment supprimer la tâche de synchronisation « %1 » ? Les fichiers présents sur cet ordinateur et sur le NAS seront conservés.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,7 +1736,7 @@
         <translation>Quillmere Drive maintient les dossiers de vos ordinateurs synchronisés avec votre NAS Orvane.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
+        <source>Enter the verification code</source>
         <translation>Saisissez le code de vérification</translation>
     </message>
     <message>
@@ -1784,8 +1780,8 @@
         <translation>Période personnalisée</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>Le nombre maximal de tâches de synchronisation (%1) est atteint. Dissociez une tâche de synchronisation avant d&apos;en ajouter une autre.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>Le nombre maximal de tâches de synchronisation (%1) est atteint. Supprimez une tâche de synchronisation avant d&apos;en ajouter une autre.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,7 +1812,7 @@
         <translation>Gardez vos fichiers synchronisés entre cet ordinateur et votre NAS, et accédez-y où que vous soyez.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
         <translation>Votre compte est protégé par l&apos;authentification à deux facteurs. Saisissez le code de vérification pour continuer.</translation>
     </message>
     <message>
@@ -1876,6 +1872,10 @@
         <translation>L&apos;Assistant d&apos;installation est prêt à commencer l&apos;installation.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>Synchronisation de %1 fichier(s)</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>Réparer l&apos;installation actuelle</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Mise à jour...</translation>
+        <source>Upgrading...</source>
+        <translation>Mise à niveau...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

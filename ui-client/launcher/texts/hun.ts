@@ -36,8 +36,8 @@
         <translation>Kilépés</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Hivatkozás megosztása</translation>
+        <source>Sharing link</source>
+        <translation>Megosztási hivatkozás</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -53,11 +53,11 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Nem olvasható a helyi szinkronizálási adatbázis. Indítsa újra a Quillmere Drive alkalmazást. Ha a probléma továbbra is fennáll, kapcsolja össze újra ezt a számítógépet.</translation>
+        <translation>Nem olvasható a helyi szinkronizálási adatbázis. Indítsa újra a Quillmere Drive alkalmazást. Ha a probléma továbbra is fennáll, kapcsolja össze újra ezt a számítógépet a NAS eszközzel.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
-        <translation>Válassza ki a szinkronizálandó mappákat</translation>
+        <translation>A szinkronizálandó mappák kiválasztása</translation>
     </message>
     <message>
         <source>Every file you put in a synced folder is copied to your NAS automatically. Just save your work and let Quillmere Drive do the rest.</source>
@@ -156,8 +156,8 @@
         <translation>Inaktív</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Törlés</translation>
+        <source>Deleted</source>
+        <translation>Törölve</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -316,7 +316,7 @@
         <translation>Ez a számítógép már össze van kapcsolva ugyanezzel a NAS eszközzel. Szerkessze inkább a meglévő kapcsolatot.</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>%1 elem</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>További részletek</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>Azokat a mappákat, amelyek jelölését itt törli, a rendszer eltávolítja erről a számítógépről. A NAS eszközön lévő másolatok megmaradnak. Folytatja?</translation>
     </message>
     <message>
@@ -365,15 +365,15 @@
     </message>
     <message>
         <source>Setup requires administrator rights. Do you want to restart it as an administrator?</source>
-        <translation>A telepítőhöz rendszergazdai jogok szükségesek. Újraindítja rendszergazdaként?</translation>
+        <translation>A telepítéshez rendszergazdai jogok szükségesek. Újraindítja a telepítőt rendszergazdaként?</translation>
     </message>
     <message>
         <source>Status</source>
         <translation>Állapot</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Másolás ide</translation>
+        <source>Copy to:</source>
+        <translation>Másolás ide:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>Az ezen a címen lévő NAS nem az, amellyel ez a számítógép össze lett kapcsolva. Ellenőrizze a címet, vagy kapcsolja össze újra a számítógépet.</translation>
+        <translation>Az ezen a címen lévő NAS nem az, amellyel ez a számítógép össze lett kapcsolva. Ellenőrizze a címet, vagy kapcsolja össze újra a számítógépet a NAS eszközzel.</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>Files that could not be synced</source>
-        <translation>Nem szinkronizálható fájlok</translation>
+        <translation>Fájlok, amelyeket nem sikerült szinkronizálni</translation>
     </message>
     <message>
         <source>The connection to the NAS was lost. Quillmere Drive will try to connect again automatically.</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choice.</source>
-        <translation>A [ProductName] eltávolításához kattintson az „Eltávolítás” gombra. A választás áttekintéséhez kattintson a „Vissza” gombra.</translation>
+        <translation>A [ProductName] számítógépről való eltávolításához kattintson az „Eltávolítás” gombra. A választás áttekintéséhez kattintson a „Vissza” gombra.</translation>
     </message>
     <message>
         <source>Quillmere Drive Server is not running on the NAS. Start it or contact the administrator.</source>
@@ -584,12 +584,12 @@
         <translation>Utolsó oldal</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Időpont</translation>
+        <source>Date and time</source>
+        <translation>Dátum és idő</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Átnevezés</translation>
+        <source>Renamed</source>
+        <translation>Átnevezve</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>Az ezen a címen lévő NAS megváltozott. Kapcsolja össze újra ezt a számítógépet.</translation>
+        <translation>Az ezen a címen lévő NAS megváltozott. Kapcsolja össze újra ezt a számítógépet a NAS eszközzel.</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -837,7 +837,7 @@
     </message>
     <message>
         <source>Change folder</source>
-        <translation>Mappa módosítása</translation>
+        <translation>Másik mappa választása</translation>
     </message>
     <message>
         <source>The username or password is incorrect, or the account has been disabled.</source>
@@ -912,12 +912,12 @@
         <translation>Szinkronizálás másik NAS eszközzel</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>Létrehoz egy Quillmere mappát a számítógépen, és szinkronban tartja az Orvane NAS eszközön lévő home mappájával. (Személyes használatra ajánlott)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>Létrehoz egy Quillmere mappát a számítógépen, és szinkronban tartja az Orvane NAS eszközön lévő home mappájával (személyes használatra ajánlott).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>A frissítéshez kattintson ide</translation>
+        <source>Click here to upgrade</source>
+        <translation>A verziófrissítéshez kattintson ide</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,8 +1020,8 @@
         <translation>Visszatérés korábbi verzióhoz</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Feltöltés</translation>
+        <source>Uploaded</source>
+        <translation>Feltöltve</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1048,8 +1048,8 @@
         <translation>Be&amp;fejezés</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>SSL-titkosítás engedélyezése az adatátvitelhez</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>A kapcsolat titkosítása SSL használatával</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>A NAS eszköz SSL-tanúsítványa megváltozott. A mappa kiválasztása előtt erősítse meg az új tanúsítványt.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Leválasztás</translation>
+        <source>Remove</source>
+        <translation>Eltávolítás</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>A megosztott mappa nem található</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Leválasztás</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1141,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Megadhatja, hogy a számítógép melyik mappája legyen szinkronban az Orvane NAS eszköz egy megosztott mappájával. (Csapatmunkához ajánlott).</translation>
+        <translation>Megadhatja, hogy a számítógép melyik mappája legyen szinkronban az Orvane NAS eszköz egy megosztott mappájával (csapatmunkához ajánlott).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1185,7 +1189,7 @@
     </message>
     <message>
         <source>Quick setup</source>
-        <translation>Gyors beállítás</translation>
+        <translation>Gyors mód</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1220,10 +1224,6 @@
         <translation>RapidHail-kapcsolat használata</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>A kapcsolat titkosítása SSL használatával</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}A [ProductName] Telepítővarázslója idő előtt véget ért</translation>
     </message>
@@ -1245,7 +1245,7 @@
     </message>
     <message>
         <source>Change local folder</source>
-        <translation>Helyi mappa módosítása</translation>
+        <translation>Másik helyi mappa választása</translation>
     </message>
     <message>
         <source>Maximum file size</source>
@@ -1272,7 +1272,7 @@
         <translation>Leválasztás...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>Az alkalmazások nyitva &amp;hagyása (újraindítás szükséges)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>Legutóbb módosított fájlok</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>Kapcsolat leválasztása</translation>
+        <source>Unlink from the NAS</source>
+        <translation>Leválasztás a NAS eszközről</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,8 +1380,8 @@
         <translation>Közvetlen kapcsolat</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Letöltés</translation>
+        <source>Downloaded</source>
+        <translation>Letöltve</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1405,7 +1405,7 @@
     </message>
     <message>
         <source>The download was canceled.</source>
-        <translation>A letöltés megszakítva.</translation>
+        <translation>A letöltést megszakították.</translation>
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</source>
@@ -1480,7 +1480,7 @@
         <translation>Előző %1 oldal</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
+        <source>The verification code is invalid. Please check the code and try again.</source>
         <translation>Érvénytelen ellenőrző kód. Ellenőrizze a kódot, és próbálkozzon újra.</translation>
     </message>
     <message>
@@ -1496,16 +1496,16 @@
         <translation>Ikonátfedések megjelenítése a fájlszűrő által kizárt fájlokon</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>További szinkronizálási feladat hozzáadása</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>Szinkronizálandó fájlok</translation>
     </message>
     <message>
         <source>File</source>
         <translation>Fájl</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Hivatkozás megosztása</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>&amp;Nem</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>A hiányzó vagy sérült fájlok, parancsikonok és beállításjegyzék-bejegyzések javításához kattintson a „Javítás” gombra. A választás áttekintéséhez kattintson a „Vissza” gombra.</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>A hiányzó vagy sérült fájlok, parancsikonok és beállításjegyzék-bejegyzések helyreállításához kattintson a „Javítás” gombra. A választás áttekintéséhez kattintson a „Vissza” gombra.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,7 +1580,7 @@
         <translation>Ne jelenjen meg többé ez az üzenet</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Javítja a legutóbbi telepítés hibáit: helyreállítja a hiányzó vagy sérült fájlokat, parancsikonokat és beállításjegyzék-bejegyzéseket.</translation>
     </message>
     <message>
@@ -1688,10 +1688,6 @@
         <translation>A telepített összetevők módosítása</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>A kapcsolat részletei</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Ha már nincs szüksége a programra, most eltávolíthatja. A szinkronizált fájlok megmaradnak ezen a számítógépen.</translation>
     </message>
@@ -1705,7 +1701,7 @@
     </message>
     <message>
         <source>A link cannot be created for this file. Make sure that it has been synced to the NAS.</source>
-        <translation>Ehhez a fájlhoz nem hozható létre hivatkozás. Győződjön meg arról, hogy a fájl szinkronizálva van a NAS eszközre.</translation>
+        <translation>Ehhez a fájlhoz nem hozható létre hivatkozás. Győződjön meg arról, hogy a fájl szinkronizálása a NAS eszközre megtörtént.</translation>
     </message>
     <message>
         <source>Check all file attributes for changes</source>
@@ -1724,8 +1720,8 @@
         <translation>A kijelölt mappa írásvédett. Válasszon olyan mappát, amelybe írhat.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>Biztosan leválasztja a(z) „%1” szinkronizálási feladatot? A számítógépen és a NAS eszközön lévő fájlok megmaradnak.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>Biztosan eltávolítja a(z) „%1” szinkronizálási feladatot? A számítógépen és a NAS eszközön lévő fájlok megmaradnak.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,7 +1736,7 @@
         <translation>A Quillmere Drive szinkronban tartja a számítógépein lévő mappákat az Orvane NAS eszközzel.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
+        <source>Enter the verification code</source>
         <translation>Adja meg az ellenőrző kódot</translation>
     </message>
     <message>
@@ -1777,15 +1773,15 @@
     </message>
     <message>
         <source>Advanced setup</source>
-        <translation>Speciális beállítás</translation>
+        <translation>Speciális mód</translation>
     </message>
     <message>
         <source>Custom range</source>
         <translation>Egyéni tartomány</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>Elérte a szinkronizálási feladatok maximális számát (%1). Új hozzáadása előtt válasszon le egy szinkronizálási feladatot.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>Elérte a szinkronizálási feladatok maximális számát (%1). Új hozzáadása előtt távolítson el egy szinkronizálási feladatot.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,7 +1812,7 @@
         <translation>Tartsa szinkronban fájljait a számítógép és a NAS eszköz között, és érje el őket bárhonnan.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
         <translation>Fiókját kétfaktoros hitelesítés védi. A folytatáshoz adja meg az ellenőrző kódot.</translation>
     </message>
     <message>
@@ -1876,6 +1872,10 @@
         <translation>A Telepítővarázsló készen áll a telepítés megkezdésére.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Törlés</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>%1 fájl szinkronizálása</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>A jelenlegi telepítés javítása</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Frissítés...</translation>
+        <source>Upgrading...</source>
+        <translation>Verziófrissítés...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

@@ -36,8 +36,8 @@
         <translation>Esci</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Condividi link</translation>
+        <source>Sharing link</source>
+        <translation>Link di condivisione</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -156,8 +156,8 @@
         <translation>Non attiva</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Elimina</translation>
+        <source>Deleted</source>
+        <translation>Eliminazione</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Upgrade now</source>
-        <translation>Aggiorna ora</translation>
+        <translation>Aggiorna versione ora</translation>
     </message>
     <message>
         <source>Computer name</source>
@@ -316,7 +316,7 @@
         <translation>Questo computer è già collegato allo stesso NAS. Modificare la connessione esistente.</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>Elementi: %1</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>Ulteriori dettagli</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>Le cartelle deselezionate qui verranno rimosse da questo computer. Le copie sul NAS verranno mantenute. Continuare?</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>Stato</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Copia in</translation>
+        <source>Copy to:</source>
+        <translation>Copia in:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -584,12 +584,12 @@
         <translation>Ultima pagina</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Ora</translation>
+        <source>Date and time</source>
+        <translation>Data e ora</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Rinomina</translation>
+        <source>Renamed</source>
+        <translation>Ridenominazione</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -912,12 +912,12 @@
         <translation>Sincronizza con un altro NAS</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>Crea una cartella Quillmere sul computer e la mantiene sincronizzata con la cartella home sul NAS Orvane. (Consigliata per uso personale)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>Crea una cartella Quillmere sul computer e la mantiene sincronizzata con la cartella home sul NAS Orvane (consigliata per uso personale).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Fare clic qui per aggiornare</translation>
+        <source>Click here to upgrade</source>
+        <translation>Fare clic qui per aggiornare la versione</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,7 +1020,7 @@
         <translation>Tornare a una versione precedente</translation>
     </message>
     <message>
-        <source>Upload</source>
+        <source>Uploaded</source>
         <translation>Caricamento</translation>
     </message>
     <message>
@@ -1048,8 +1048,8 @@
         <translation>&amp;Fine</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>Abilita la crittografia SSL per il trasferimento dei dati</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>Crittografa la connessione con SSL</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>Il certificato SSL del NAS è cambiato. Confermare il nuovo certificato prima di selezionare una cartella.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Scollega</translation>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>Cartella condivisa non trovata</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Scollega</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1141,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Consente di specificare una cartella sul computer da mantenere sincronizzata con una cartella condivisa sul NAS Orvane. (Consigliata per il lavoro in team).</translation>
+        <translation>Consente di specificare una cartella sul computer da mantenere sincronizzata con una cartella condivisa sul NAS Orvane (consigliata per il lavoro in team).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1220,10 +1224,6 @@
         <translation>Usa una connessione RapidHail</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>Crittografa la connessione con SSL</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}L&apos;Installazione guidata di [ProductName] è terminata prima del previsto</translation>
     </message>
@@ -1272,7 +1272,7 @@
         <translation>Scollegamento in corso...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>&amp;Lascia aperte le applicazioni (sarà necessario un riavvio)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>File modificati di recente</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>Scollega connessione</translation>
+        <source>Unlink from the NAS</source>
+        <translation>Scollega dal NAS</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,7 +1380,7 @@
         <translation>Connessione diretta</translation>
     </message>
     <message>
-        <source>Download</source>
+        <source>Downloaded</source>
         <translation>Download</translation>
     </message>
     <message>
@@ -1480,7 +1480,7 @@
         <translation>%1 pagine precedenti</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
+        <source>The verification code is invalid. Please check the code and try again.</source>
         <translation>Il codice di verifica non è valido. Controllare il codice e riprovare.</translation>
     </message>
     <message>
@@ -1496,16 +1496,16 @@
         <translation>Mostra icone sovrapposte sui file esclusi dal filtro file</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Aggiungi un&apos;altra attività di sincronizzazione</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>File da sincronizzare</translation>
     </message>
     <message>
         <source>File</source>
         <translation>File</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Condividi link</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>&amp;No</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Fare clic su &quot;Ripristina&quot; per correggere file, collegamenti e voci del Registro di sistema mancanti o danneggiati. Fare clic su &quot;Indietro&quot; per rivedere la scelta effettuata.</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>Fare clic su &quot;Ripristina&quot; per ripristinare file, collegamenti e voci del Registro di sistema mancanti o danneggiati. Fare clic su &quot;Indietro&quot; per rivedere la scelta effettuata.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,8 +1580,8 @@
         <translation>Non mostrare più questo messaggio</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>Ripristina l&apos;installazione più recente correggendo file, collegamenti e voci del Registro di sistema mancanti o danneggiati.</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>Corregge gli errori dell&apos;installazione più recente ripristinando file, collegamenti e voci del Registro di sistema mancanti o danneggiati.</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
@@ -1688,10 +1688,6 @@
         <translation>Modifica le funzionalità installate</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Dettagli della connessione</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Se il programma non è più necessario, è possibile rimuoverlo ora. I file sincronizzati verranno mantenuti su questo computer.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>La cartella selezionata è di sola lettura. Scegliere una cartella in cui sia possibile scrivere.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>Scollegare l&apos;attività di sincronizzazione &quot;%1&quot;? I file su questo computer e sul NAS verranno mantenuti.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>Rimuovere l&apos;attività di sincronizzazione &quot;%1&quot;? I file su questo computer e sul NAS verranno mantenuti.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,7 +1736,7 @@
         <translation>Quillmere Drive mantiene le cartelle dei computer sincronizzate con il NAS Orvane.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
+        <source>Enter the verification code</source>
         <translation>Immettere il codice di verifica</translation>
     </message>
     <message>
@@ -1784,8 +1780,8 @@
         <translation>Intervallo personalizzato</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>È stato raggiunto il numero massimo di attività di sincronizzazione (%1). Scollegare un&apos;attività prima di aggiungerne un&apos;altra.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>È stato raggiunto il numero massimo di attività di sincronizzazione (%1). Rimuovere un&apos;attività prima di aggiungerne un&apos;altra.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,7 +1812,7 @@
         <translation>File sempre sincronizzati tra questo computer e il NAS, accessibili ovunque.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
         <translation>L&apos;account è protetto dalla verifica a due fattori. Immettere il codice di verifica per continuare.</translation>
     </message>
     <message>
@@ -1876,6 +1872,10 @@
         <translation>L&apos;Installazione guidata è pronta per avviare l&apos;installazione.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>Sincronizzazione di %1 file</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>Ripristina l&apos;installazione corrente</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Aggiornamento in corso...</translation>
+        <source>Upgrading...</source>
+        <translation>Aggiornamento di versione in corso...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

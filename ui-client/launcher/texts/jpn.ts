@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>This shared folder has been disabled for your account. Contact the administrator of the NAS to regain access.</source>
-        <translation>この共有フォルダーは、お使いのアカウントでは無効になっています。アクセスするには、NASの管理者にお問い合わせください。</translation>
+        <translation>この共有フォルダーは、お使いのアカウントでは無効になっています。再びアクセスできるようにするには、NASの管理者にお問い合わせください。</translation>
     </message>
     <message>
         <source>Merge the folders</source>
@@ -36,8 +36,8 @@
         <translation>終了</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>リンクを共有</translation>
+        <source>Sharing link</source>
+        <translation>共有リンク</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>ローカルの同期データベースを読み取れません。Quillmere Drive を再起動してください。問題が解決しない場合は、このコンピューターをもう一度リンクしてください。</translation>
+        <translation>ローカルの同期データベースを読み取れません。Quillmere Drive を再起動してください。問題が解決しない場合は、このコンピューターをもう一度関連付けてください。</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>Linking...</source>
-        <translation>リンク中...</translation>
+        <translation>関連付け中...</translation>
     </message>
     <message>
         <source>About Quillmere Drive</source>
@@ -156,7 +156,7 @@
         <translation>非アクティブ</translation>
     </message>
     <message>
-        <source>Delete</source>
+        <source>Deleted</source>
         <translation>削除</translation>
     </message>
     <message>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Status information</source>
-        <translation>状態の情報</translation>
+        <translation>状態情報</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Link again</source>
-        <translation>再リンク</translation>
+        <translation>再び関連付け</translation>
     </message>
     <message>
         <source>Select how you want to sync files between this computer and your NAS. You can add more sync tasks later.</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>This computer is now linked to your NAS. Syncing starts as soon as you close the wizard.</source>
-        <translation>このコンピューターがNASにリンクされました。ウィザードを閉じると、すぐに同期が始まります。</translation>
+        <translation>このコンピューターがNASに関連付けられました。ウィザードを閉じると、すぐに同期が始まります。</translation>
     </message>
     <message>
         <source>Enable sync for this shared folder</source>
@@ -313,10 +313,10 @@
     </message>
     <message>
         <source>This computer is already linked to the same NAS. Edit the existing connection instead.</source>
-        <translation>このコンピューターは、すでに同じNASにリンクされています。既存の接続を編集してください。</translation>
+        <translation>このコンピューターは、すでに同じNASに関連付けられています。既存の接続を編集してください。</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>%1件</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>詳細情報</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>ここで選択を解除したフォルダーは、このコンピューターから削除されます。NAS上のコピーは保持されます。続行しますか？</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>状態</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>コピー先</translation>
+        <source>Copy to:</source>
+        <translation>コピー先：</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>このアドレスのNASは、このコンピューターがリンクされていたNASではありません。アドレスを確認するか、コンピューターをもう一度リンクしてください。</translation>
+        <translation>このアドレスのNASは、このコンピューターが関連付けられていたNASではありません。アドレスを確認するか、コンピューターをもう一度関連付けてください。</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The folder home\Quillmere on your NAS has already been linked to this PC. We will launch the synced folder when you click Done. Or you can set up a seperate task: %1</source>
-        <translation>NASのフォルダー「home\Quillmere」は、すでにこのPCにリンクされています。「完了」をクリックすると、同期フォルダーが開きます。別のタスクを設定することもできます：%1</translation>
+        <translation>NASのフォルダー「home\Quillmere」は、すでにこのPCに関連付けられています。「完了」をクリックすると、同期フォルダーが開きます。別のタスクを設定することもできます：%1</translation>
     </message>
     <message>
         <source>The port number is invalid. Enter a number from 1 to 65535.</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Welcome to Quillmere Drive. This wizard will help you link this computer to your NAS.</source>
-        <translation>Quillmere Drive へようこそ。このウィザードでは、このコンピューターをNASにリンクします。</translation>
+        <translation>Quillmere Drive へようこそ。このウィザードでは、このコンピューターをNASに関連付けます。</translation>
     </message>
     <message>
         <source>Show icon overlays on synced files and folders</source>
@@ -584,11 +584,11 @@
         <translation>最後のページ</translation>
     </message>
     <message>
-        <source>Time</source>
+        <source>Date and time</source>
         <translation>日時</translation>
     </message>
     <message>
-        <source>Rename</source>
+        <source>Renamed</source>
         <translation>名前の変更</translation>
     </message>
     <message>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>Link to a new NAS</source>
-        <translation>新しいNASにリンク</translation>
+        <translation>新しいNASに関連付け</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>このアドレスのNASが変更されました。このコンピューターをもう一度リンクしてください。</translation>
+        <translation>このアドレスのNASが変更されました。このコンピューターをもう一度関連付けてください。</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -912,12 +912,12 @@
         <translation>別のNASと同期</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>コンピューターにQuillmereフォルダーを作成し、Orvane NASのホームフォルダーと常に同期します（個人での使用におすすめ）</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>コンピューターにQuillmereフォルダーを作成し、Orvane NASのホームフォルダーと常に同期します（個人での使用におすすめ）。</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>ここをクリックしてアップデート</translation>
+        <source>Click here to upgrade</source>
+        <translation>ここをクリックしてアップグレード</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,7 +1020,7 @@
         <translation>以前のバージョンに戻す</translation>
     </message>
     <message>
-        <source>Upload</source>
+        <source>Uploaded</source>
         <translation>アップロード</translation>
     </message>
     <message>
@@ -1041,15 +1041,15 @@
     </message>
     <message>
         <source>Link this computer to your NAS in just a few steps.</source>
-        <translation>わずか数ステップで、このコンピューターをNASにリンクできます。</translation>
+        <translation>わずか数ステップで、このコンピューターをNASに関連付けられます。</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
         <translation>完了(&amp;F)</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>データ転送のSSL暗号化を有効にする</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>接続をSSLで暗号化する</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1069,11 +1069,11 @@
     </message>
     <message>
         <source>The SSL certificate of the NAS has changed. Confirm the new certificate before you select a folder.</source>
-        <translation>NASのSSL証明書が変更されました。フォルダーを選択する前に、新しい証明書を確認してください。</translation>
+        <translation>NASのSSL証明書が変更されました。フォルダーを選択する前に、新しい証明書を承認してください。</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>リンクを解除</translation>
+        <source>Remove</source>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>共有フォルダーが見つかりません</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>関連付けを解除</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1125,7 +1129,7 @@
     </message>
     <message>
         <source>Insufficient permissions</source>
-        <translation>アクセス許可の不足</translation>
+        <translation>アクセス許可が不足しています</translation>
     </message>
     <message>
         <source>Updated: %1</source>
@@ -1145,7 +1149,7 @@
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
-        <translation>セットアップウィザードは、[ProductName] の修復を開始する準備ができました。</translation>
+        <translation>[ProductName] の修復を開始する準備ができました。</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -1209,7 +1213,7 @@
     </message>
     <message>
         <source>Keep the version on the NAS and overwrite the one on this computer</source>
-        <translation>NASのバージョンを保持し、このコンピューターのバージョンを上書きする</translation>
+        <translation>NAS上のバージョンを保持し、このコンピューター上のバージョンを上書きする</translation>
     </message>
     <message>
         <source>August</source>
@@ -1218,10 +1222,6 @@
     <message>
         <source>Use a RapidHail connection</source>
         <translation>RapidHail接続を使用する</translation>
-    </message>
-    <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>接続をSSLで暗号化する</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
@@ -1269,10 +1269,10 @@
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation>リンクを解除しています...</translation>
+        <translation>関連付けを解除しています...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>アプリケーションを開いたままにする（再起動が必要）(&amp;L)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>最近変更されたファイル</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>接続のリンクを解除</translation>
+        <source>Unlink from the NAS</source>
+        <translation>NASとの関連付けを解除</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,7 +1380,7 @@
         <translation>直接接続</translation>
     </message>
     <message>
-        <source>Download</source>
+        <source>Downloaded</source>
         <translation>ダウンロード</translation>
     </message>
     <message>
@@ -1389,7 +1389,7 @@
     </message>
     <message>
         <source>Unstable connection</source>
-        <translation>不安定な接続</translation>
+        <translation>接続が不安定です</translation>
     </message>
     <message>
         <source>There is not enough free space on this computer to sync this folder. Free up some space or choose another folder.</source>
@@ -1441,7 +1441,7 @@
     </message>
     <message>
         <source>You can let Setup close the applications listed below and try to restart them afterward.</source>
-        <translation>下の一覧にあるアプリケーションをセットアップで閉じ、その後に再起動を試みることができます。</translation>
+        <translation>以下のアプリケーションをセットアップで自動的に閉じ、後で再起動を試みることができます。</translation>
     </message>
     <message>
         <source>The Setup Wizard lets you change the way [ProductName] is installed or remove it from your computer. Click Next to continue or Cancel to exit.</source>
@@ -1480,8 +1480,8 @@
         <translation>前の%1ページ</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>ワンタイムパスワード（OTP）が無効です。コードを確認して、もう一度お試しください。</translation>
+        <source>The verification code is invalid. Please check the code and try again.</source>
+        <translation>確認コードが無効です。コードを確認して、もう一度お試しください。</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1496,16 +1496,16 @@
         <translation>ファイルフィルターで除外されたファイルにアイコンオーバーレイを表示する</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>別の同期タスクを追加</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>同期するファイル</translation>
     </message>
     <message>
         <source>File</source>
         <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>リンクを共有</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>いいえ(&amp;N)</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>不足または破損しているファイル、ショートカット、レジストリエントリを修復するには、「修復」をクリックしてください。選択内容を確認するには、「戻る」をクリックしてください。</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>不足または破損しているファイル、ショートカット、レジストリエントリを復元するには、「修復」をクリックしてください。選択内容を確認するには、「戻る」をクリックしてください。</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,8 +1580,8 @@
         <translation>今後このメッセージを表示しない</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>不足または破損しているファイル、ショートカット、レジストリエントリを修復し、最新のインストールのエラーを解決します。</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>不足または破損しているファイル、ショートカット、レジストリエントリを復元し、最新のインストールのエラーを解決します。</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
@@ -1633,11 +1633,11 @@
     </message>
     <message>
         <source>Blocked by:</source>
-        <translation>ブロックの原因：</translation>
+        <translation>ブロック元：</translation>
     </message>
     <message>
         <source>This computer is linked to your NAS, and your files are now being synced.</source>
-        <translation>このコンピューターがNASにリンクされ、ファイルの同期が始まりました。</translation>
+        <translation>このコンピューターがNASに関連付けられ、ファイルの同期が始まりました。</translation>
     </message>
     <message>
         <source>The RapidHail ID is invalid or does not exist.</source>
@@ -1688,10 +1688,6 @@
         <translation>インストールされている機能を変更</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>接続の詳細</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>プログラムが不要になった場合は、今すぐ削除できます。同期したファイルは、このコンピューターに保持されます。</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>選択したフォルダーは読み取り専用です。書き込み可能なフォルダーを選択してください。</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>同期タスク「%1」のリンクを解除しますか？このコンピューターとNASのファイルは保持されます。</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>同期タスク「%1」を削除しますか？このコンピューターとNASのファイルは保持されます。</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,8 +1736,8 @@
         <translation>Quillmere Drive は、コンピューターのフォルダーをOrvane NASと常に同期します。</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
-        <translation>ワンタイムパスワード（OTP）を入力</translation>
+        <source>Enter the verification code</source>
+        <translation>確認コードを入力</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1761,7 +1757,7 @@
     </message>
     <message>
         <source>Folder already linked</source>
-        <translation>フォルダーはリンク済みです</translation>
+        <translation>フォルダーは関連付け済みです</translation>
     </message>
     <message>
         <source>The maximum length of this field is %1 characters.</source>
@@ -1773,7 +1769,7 @@
     </message>
     <message>
         <source>Are you sure you want to unlink this computer from &quot;%1&quot;? Syncing will stop, but your files will be kept.</source>
-        <translation>このコンピューターと「%1」のリンクを解除しますか？同期は停止しますが、ファイルは保持されます。</translation>
+        <translation>このコンピューターと「%1」の関連付けを解除しますか？同期は停止しますが、ファイルは保持されます。</translation>
     </message>
     <message>
         <source>Advanced setup</source>
@@ -1784,8 +1780,8 @@
         <translation>期間を指定</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>同期タスクの最大数（%1）に達しました。新しい同期タスクを追加する前に、いずれかの同期タスクのリンクを解除してください。</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>同期タスクの最大数（%1）に達しました。新しい同期タスクを追加する前に、いずれかの同期タスクを削除してください。</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,8 +1812,8 @@
         <translation>このコンピューターとNASの間でファイルを常に同期し、どこからでもアクセスできます。</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>お使いのアカウントは2要素認証で保護されています。続行するには、ワンタイムパスワード（OTP）を入力してください。</translation>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
+        <translation>お使いのアカウントは2要素認証で保護されています。続行するには、確認コードを入力してください。</translation>
     </message>
     <message>
         <source>Edit file filter</source>
@@ -1873,7 +1869,11 @@
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the installation.</source>
-        <translation>セットアップウィザードは、インストールを開始する準備ができました。</translation>
+        <translation>インストールを開始する準備ができました。</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Syncing %1 file(s)</source>
@@ -1896,8 +1896,8 @@
         <translation>現在のインストールを修復</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>アップデート中...</translation>
+        <source>Upgrading...</source>
+        <translation>アップグレード中...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

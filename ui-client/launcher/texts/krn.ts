@@ -36,8 +36,8 @@
         <translation>종료</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>링크 공유</translation>
+        <source>Sharing link</source>
+        <translation>공유 링크</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -156,8 +156,8 @@
         <translation>비활성</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>삭제</translation>
+        <source>Deleted</source>
+        <translation>삭제됨</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>This computer is now linked to your NAS. Syncing starts as soon as you close the wizard.</source>
-        <translation>이제 이 컴퓨터가 NAS에 연동되었습니다. 마법사를 닫으면 바로 동기화가 시작됩니다.</translation>
+        <translation>이제 이 컴퓨터가 NAS와 연동되었습니다. 마법사를 닫으면 바로 동기화가 시작됩니다.</translation>
     </message>
     <message>
         <source>Enable sync for this shared folder</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>This computer is already linked to the same NAS. Edit the existing connection instead.</source>
-        <translation>이 컴퓨터는 이미 같은 NAS에 연동되어 있습니다. 기존 연결을 편집하십시오.</translation>
+        <translation>이 컴퓨터는 이미 같은 NAS와 연동되어 있습니다. 기존 연결을 편집하십시오.</translation>
     </message>
     <message>
-        <source>%1 items</source>
-        <translation>%1개 항목</translation>
+        <source>%1 item(s)</source>
+        <translation>항목 %1개</translation>
     </message>
     <message>
         <source>Pause connection</source>
@@ -336,7 +336,7 @@
         <translation>자세한 정보</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>여기에서 선택을 취소한 폴더는 이 컴퓨터에서 제거됩니다. NAS에 있는 사본은 유지됩니다. 계속하시겠습니까?</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>상태</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>다음 위치로 복사</translation>
+        <source>Copy to:</source>
+        <translation>다음 위치로 복사:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The folder home\Quillmere on your NAS has already been linked to this PC. We will launch the synced folder when you click Done. Or you can set up a seperate task: %1</source>
-        <translation>NAS의 home\Quillmere 폴더는 이미 이 PC에 연동되어 있습니다. &apos;완료&apos;를 클릭하면 동기화 폴더가 열립니다. 또는 별도의 작업을 설정할 수 있습니다: %1</translation>
+        <translation>NAS의 home\Quillmere 폴더는 이미 이 PC와 연동되어 있습니다. &apos;완료&apos;를 클릭하면 동기화 폴더가 열립니다. 또는 별도의 작업을 설정할 수 있습니다: %1</translation>
     </message>
     <message>
         <source>The port number is invalid. Enter a number from 1 to 65535.</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Welcome to Quillmere Drive. This wizard will help you link this computer to your NAS.</source>
-        <translation>Quillmere Drive에 오신 것을 환영합니다. 이 마법사는 이 컴퓨터를 NAS에 연동하는 과정을 안내합니다.</translation>
+        <translation>Quillmere Drive에 오신 것을 환영합니다. 이 마법사는 이 컴퓨터를 NAS와 연동하는 과정을 안내합니다.</translation>
     </message>
     <message>
         <source>Show icon overlays on synced files and folders</source>
@@ -584,12 +584,12 @@
         <translation>마지막 페이지</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>시간</translation>
+        <source>Date and time</source>
+        <translation>날짜 및 시간</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>이름 바꾸기</translation>
+        <source>Renamed</source>
+        <translation>이름 변경됨</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -693,7 +693,7 @@
     </message>
     <message>
         <source>Open the main window</source>
-        <translation>기본 창 열기</translation>
+        <translation>메인 창 열기</translation>
     </message>
     <message>
         <source>Proxy port</source>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>Link to a new NAS</source>
-        <translation>새 NAS에 연동</translation>
+        <translation>새 NAS와 연동</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>The files on this computer and the files in the shared folder will be merged. If two files have the same name, the newer one is used.</source>
-        <translation>이 컴퓨터의 파일과 공유 폴더의 파일이 병합됩니다. 이름이 같은 파일이 있으면 최신 파일이 사용됩니다.</translation>
+        <translation>이 컴퓨터의 파일과 공유 폴더의 파일이 병합됩니다. 이름이 같은 파일이 있으면 더 최근 파일이 사용됩니다.</translation>
     </message>
     <message>
         <source>Start Quillmere Drive automatically when I sign in</source>
@@ -912,12 +912,12 @@
         <translation>다른 NAS와 동기화</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>컴퓨터에 Quillmere 폴더를 만들고 Orvane NAS의 홈 폴더와 항상 동기화합니다. (개인 용도에 권장)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>컴퓨터에 Quillmere 폴더를 만들고 Orvane NAS의 홈 폴더와 항상 동기화합니다(개인 용도에 권장).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>업데이트하려면 여기를 클릭</translation>
+        <source>Click here to upgrade</source>
+        <translation>업그레이드하려면 여기를 클릭</translation>
     </message>
     <message>
         <source>April</source>
@@ -925,7 +925,7 @@
     </message>
     <message>
         <source>On your computer</source>
-        <translation>내 컴퓨터</translation>
+        <translation>컴퓨터</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the installation of [ProductName]?</source>
@@ -981,7 +981,7 @@
     </message>
     <message>
         <source>Select a folder on this computer and the shared folder on the NAS that it will be synced with.</source>
-        <translation>이 컴퓨터의 폴더와 이와 동기화할 NAS의 공유 폴더를 선택하십시오.</translation>
+        <translation>이 컴퓨터의 폴더와 그 폴더를 동기화할 NAS의 공유 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>This field cannot be left blank.</source>
@@ -1020,8 +1020,8 @@
         <translation>이전 버전으로 되돌리기</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>업로드</translation>
+        <source>Uploaded</source>
+        <translation>업로드됨</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1041,15 +1041,15 @@
     </message>
     <message>
         <source>Link this computer to your NAS in just a few steps.</source>
-        <translation>몇 단계만 거치면 이 컴퓨터를 NAS에 연동할 수 있습니다.</translation>
+        <translation>몇 단계만 거치면 이 컴퓨터를 NAS와 연동할 수 있습니다.</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
         <translation>마침(&amp;F)</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>데이터 전송에 SSL 암호화 사용</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>SSL로 연결 암호화</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>NAS의 SSL 인증서가 변경되었습니다. 폴더를 선택하기 전에 새 인증서를 확인하십시오.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>연동 해제</translation>
+        <source>Remove</source>
+        <translation>제거</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>공유 폴더를 찾을 수 없음</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>연동 해제</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1185,7 +1189,7 @@
     </message>
     <message>
         <source>Quick setup</source>
-        <translation>빠른 설정</translation>
+        <translation>빠른 설정 모드</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1218,10 +1222,6 @@
     <message>
         <source>Use a RapidHail connection</source>
         <translation>RapidHail 연결 사용</translation>
-    </message>
-    <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>SSL로 연결 암호화</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
@@ -1272,7 +1272,7 @@
         <translation>연동 해제 중...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>응용 프로그램 열어 두기(다시 시작해야 함)(&amp;L)</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>최근 변경된 파일</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
+        <source>Unlink from the NAS</source>
         <translation>NAS 연동 해제</translation>
     </message>
     <message>
@@ -1333,7 +1333,7 @@
     </message>
     <message>
         <source>Advanced settings</source>
-        <translation>고급 옵션</translation>
+        <translation>고급 설정</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -1380,8 +1380,8 @@
         <translation>직접 연결</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>다운로드</translation>
+        <source>Downloaded</source>
+        <translation>다운로드됨</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1417,7 +1417,7 @@
     </message>
     <message>
         <source>Too many failed attempts. Please wait a few minutes before you try again.</source>
-        <translation>시도 실패 횟수가 너무 많습니다. 몇 분 정도 기다린 후 다시 시도하십시오.</translation>
+        <translation>실패 횟수가 너무 많습니다. 몇 분 후에 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>All set</source>
@@ -1441,7 +1441,7 @@
     </message>
     <message>
         <source>You can let Setup close the applications listed below and try to restart them afterward.</source>
-        <translation>설치 프로그램이 아래에 나열된 응용 프로그램을 닫은 후 다시 시작을 시도하도록 할 수 있습니다.</translation>
+        <translation>설치 프로그램이 아래에 나열된 응용 프로그램을 닫았다가 나중에 다시 시작하도록 할 수 있습니다.</translation>
     </message>
     <message>
         <source>The Setup Wizard lets you change the way [ProductName] is installed or remove it from your computer. Click Next to continue or Cancel to exit.</source>
@@ -1480,8 +1480,8 @@
         <translation>이전 %1개 페이지</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>인증 코드(OTP)가 잘못되었습니다. 코드를 확인한 후 다시 시도하십시오.</translation>
+        <source>The verification code is invalid. Please check the code and try again.</source>
+        <translation>인증 코드가 잘못되었습니다. 코드를 확인한 후 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1496,16 +1496,16 @@
         <translation>파일 필터로 제외된 파일에 아이콘 오버레이 표시</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>다른 동기화 작업 추가</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>동기화할 파일</translation>
     </message>
     <message>
         <source>File</source>
         <translation>파일</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>링크 공유</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>아니요(&amp;N)</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>누락되거나 손상된 파일, 바로 가기 및 레지스트리 항목을 수정하려면 &apos;복구&apos;를 클릭하십시오. 선택한 내용을 다시 확인하려면 &apos;뒤로&apos;를 클릭하십시오.</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>누락되거나 손상된 파일, 바로 가기 및 레지스트리 항목을 복원하려면 &apos;복구&apos;를 클릭하십시오. 선택한 내용을 다시 확인하려면 &apos;뒤로&apos;를 클릭하십시오.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,8 +1580,8 @@
         <translation>이 메시지를 다시 표시하지 않음</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>누락되거나 손상된 파일, 바로 가기 및 레지스트리 항목을 수정하여 최근 설치의 오류를 복구합니다.</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>누락되거나 손상된 파일, 바로 가기 및 레지스트리 항목을 복원하여 최근 설치의 오류를 복구합니다.</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
@@ -1633,11 +1633,11 @@
     </message>
     <message>
         <source>Blocked by:</source>
-        <translation>차단 원인:</translation>
+        <translation>차단한 항목:</translation>
     </message>
     <message>
         <source>This computer is linked to your NAS, and your files are now being synced.</source>
-        <translation>이 컴퓨터가 NAS에 연동되었으며 현재 파일을 동기화하고 있습니다.</translation>
+        <translation>이 컴퓨터가 NAS와 연동되었으며 현재 파일을 동기화하고 있습니다.</translation>
     </message>
     <message>
         <source>The RapidHail ID is invalid or does not exist.</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>A secure connection to the NAS could not be established because of an SSL error.</source>
-        <translation>SSL 오류로 인해 NAS에 보안 연결을 설정할 수 없습니다.</translation>
+        <translation>SSL 오류로 인해 NAS와 보안 연결을 설정할 수 없습니다.</translation>
     </message>
     <message>
         <source>General settings</source>
@@ -1688,10 +1688,6 @@
         <translation>설치된 기능 변경</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>연결 세부 정보</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>프로그램이 더 이상 필요하지 않으면 지금 제거할 수 있습니다. 동기화된 파일은 이 컴퓨터에 유지됩니다.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>선택한 폴더는 읽기 전용입니다. 쓰기 가능한 폴더를 선택하십시오.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>동기화 작업 &apos;%1&apos;의 연동을 해제하시겠습니까? 이 컴퓨터와 NAS에 있는 파일은 유지됩니다.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>동기화 작업 &apos;%1&apos;을(를) 제거하시겠습니까? 이 컴퓨터와 NAS에 있는 파일은 유지됩니다.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,8 +1736,8 @@
         <translation>Quillmere Drive는 컴퓨터의 폴더를 Orvane NAS와 항상 동기화된 상태로 유지합니다.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
-        <translation>인증 코드(OTP) 입력</translation>
+        <source>Enter the verification code</source>
+        <translation>인증 코드 입력</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1777,15 +1773,15 @@
     </message>
     <message>
         <source>Advanced setup</source>
-        <translation>고급 설정</translation>
+        <translation>고급 설정 모드</translation>
     </message>
     <message>
         <source>Custom range</source>
         <translation>사용자 지정 범위</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>동기화 작업의 최대 개수인 %1개에 도달했습니다. 다른 작업을 추가하려면 먼저 기존 동기화 작업의 연동을 해제하십시오.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>동기화 작업의 최대 개수인 %1개에 도달했습니다. 다른 작업을 추가하려면 먼저 기존 동기화 작업을 제거하십시오.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,8 +1812,8 @@
         <translation>이 컴퓨터와 NAS의 파일을 항상 동기화하고 어디에서나 이용하십시오.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>이 계정은 2단계 인증으로 보호되고 있습니다. 계속하려면 인증 코드(OTP)를 입력하십시오.</translation>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
+        <translation>이 계정은 2단계 인증으로 보호되고 있습니다. 계속하려면 인증 코드를 입력하십시오.</translation>
     </message>
     <message>
         <source>Edit file filter</source>
@@ -1876,6 +1872,10 @@
         <translation>설치 마법사가 설치를 시작할 준비가 되었습니다.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>파일 %1개 동기화 중</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>현재 설치 복구</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>업데이트 중...</translation>
+        <source>Upgrading...</source>
+        <translation>업그레이드 중...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

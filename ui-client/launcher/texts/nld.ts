@@ -36,8 +36,8 @@
         <translation>Afsluiten</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Link delen</translation>
+        <source>Sharing link</source>
+        <translation>Deellink</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -156,8 +156,8 @@
         <translation>Inactief</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Verwijderen</translation>
+        <source>Deleted</source>
+        <translation>Verwijderd</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -316,8 +316,8 @@
         <translation>Deze computer is al gekoppeld aan dezelfde NAS. Bewerk in plaats daarvan de bestaande verbinding.</translation>
     </message>
     <message>
-        <source>%1 items</source>
-        <translation>%1 items</translation>
+        <source>%1 item(s)</source>
+        <translation>%1 item(s)</translation>
     </message>
     <message>
         <source>Pause connection</source>
@@ -336,7 +336,7 @@
         <translation>Meer details</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>Mappen die u hier deselecteert, worden van deze computer verwijderd. De kopieën op de NAS blijven behouden. Wilt u doorgaan?</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>Status</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Kopiëren naar</translation>
+        <source>Copy to:</source>
+        <translation>Kopiëren naar:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -584,12 +584,12 @@
         <translation>Laatste pagina</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Tijd</translation>
+        <source>Date and time</source>
+        <translation>Datum en tijd</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Naam wijzigen</translation>
+        <source>Renamed</source>
+        <translation>Naam gewijzigd</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -912,12 +912,12 @@
         <translation>Synchroniseren met een andere NAS</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>Hiermee maakt u een Quillmere-map op uw computer die gesynchroniseerd blijft met uw home-map op de Orvane-NAS. (Aanbevolen voor persoonlijk gebruik)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>Hiermee maakt u een Quillmere-map op uw computer die gesynchroniseerd blijft met uw home-map op de Orvane-NAS (aanbevolen voor persoonlijk gebruik).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Klik hier om bij te werken</translation>
+        <source>Click here to upgrade</source>
+        <translation>Klik hier om te upgraden</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,8 +1020,8 @@
         <translation>Teruggaan naar een eerdere versie</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Uploaden</translation>
+        <source>Uploaded</source>
+        <translation>Geüpload</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1048,8 +1048,8 @@
         <translation>V&amp;oltooien</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>SSL-versleuteling inschakelen voor gegevensoverdracht</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>De verbinding versleutelen met SSL</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>Het SSL-certificaat van de NAS is gewijzigd. Bevestig het nieuwe certificaat voordat u een map selecteert.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Ontkoppelen</translation>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>Gedeelde map niet gevonden</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Ontkoppelen</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1141,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Hiermee kunt u een map op uw computer opgeven die gesynchroniseerd blijft met een gedeelde map op uw Orvane-NAS. (Aanbevolen voor teamwerk).</translation>
+        <translation>Hiermee kunt u een map op uw computer opgeven die gesynchroniseerd blijft met een gedeelde map op uw Orvane-NAS (aanbevolen voor teamwerk).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1220,10 +1224,6 @@
         <translation>Een RapidHail-verbinding gebruiken</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>De verbinding versleutelen met SSL</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}De Installatiewizard van [ProductName] is voortijdig beëindigd</translation>
     </message>
@@ -1272,7 +1272,7 @@
         <translation>Ontkoppelen...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>Toepassingen ge&amp;opend laten (opnieuw opstarten is vereist)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>Recent gewijzigde bestanden</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>Verbinding ontkoppelen</translation>
+        <source>Unlink from the NAS</source>
+        <translation>Van de NAS ontkoppelen</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,8 +1380,8 @@
         <translation>Directe verbinding</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Downloaden</translation>
+        <source>Downloaded</source>
+        <translation>Gedownload</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1480,7 +1480,7 @@
         <translation>Vorige %1 pagina&apos;s</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
+        <source>The verification code is invalid. Please check the code and try again.</source>
         <translation>De verificatiecode is ongeldig. Controleer de code en probeer het opnieuw.</translation>
     </message>
     <message>
@@ -1496,16 +1496,16 @@
         <translation>Pictogramoverlays weergeven op bestanden die door het bestandsfilter zijn uitgesloten</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Nog een synchronisatietaak toevoegen</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>Te synchroniseren bestanden</translation>
     </message>
     <message>
         <source>File</source>
         <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Link delen</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>&amp;Nee</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Klik op &quot;Herstellen&quot; om ontbrekende of beschadigde bestanden, snelkoppelingen en registervermeldingen te repareren. Klik op &quot;Vorige&quot; om uw keuze te controleren.</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>Klik op &quot;Herstellen&quot; om ontbrekende of beschadigde bestanden, snelkoppelingen en registervermeldingen te herstellen. Klik op &quot;Vorige&quot; om uw keuze te controleren.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,8 +1580,8 @@
         <translation>Dit bericht niet meer weergeven</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>Herstelt fouten in de meest recente installatie door ontbrekende of beschadigde bestanden, snelkoppelingen en registervermeldingen te repareren.</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>Lost fouten in de meest recente installatie op door ontbrekende of beschadigde bestanden, snelkoppelingen en registervermeldingen te herstellen.</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
@@ -1688,10 +1688,6 @@
         <translation>De geïnstalleerde onderdelen wijzigen</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Verbindingsdetails</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Als u het programma niet meer nodig hebt, kunt u het nu verwijderen. Uw gesynchroniseerde bestanden blijven behouden op deze computer.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>De geselecteerde map is alleen-lezen. Kies een map waarin u kunt schrijven.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>Weet u zeker dat u de synchronisatietaak &quot;%1&quot; wilt ontkoppelen? De bestanden op deze computer en op de NAS blijven behouden.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>Weet u zeker dat u de synchronisatietaak &quot;%1&quot; wilt verwijderen? De bestanden op deze computer en op de NAS blijven behouden.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,7 +1736,7 @@
         <translation>Quillmere Drive houdt de mappen op uw computers gesynchroniseerd met uw Orvane-NAS.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
+        <source>Enter the verification code</source>
         <translation>Voer de verificatiecode in</translation>
     </message>
     <message>
@@ -1784,8 +1780,8 @@
         <translation>Aangepast bereik</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>U hebt het maximum van %1 synchronisatietaken bereikt. Ontkoppel een synchronisatietaak voordat u er nog een toevoegt.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>U hebt het maximum van %1 synchronisatietaken bereikt. Verwijder een synchronisatietaak voordat u er nog een toevoegt.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,7 +1812,7 @@
         <translation>Houd uw bestanden gesynchroniseerd tussen deze computer en uw NAS en open ze waar u ook bent.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
         <translation>Uw account is beveiligd met tweefactorauthenticatie. Voer de verificatiecode in om door te gaan.</translation>
     </message>
     <message>
@@ -1876,6 +1872,10 @@
         <translation>De Installatiewizard is gereed om met de installatie te beginnen.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>%1 bestand(en) synchroniseren</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>De huidige installatie herstellen</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Bijwerken...</translation>
+        <source>Upgrading...</source>
+        <translation>Upgraden...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

@@ -36,8 +36,8 @@
         <translation>Avslutt</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Del lenke</translation>
+        <source>Sharing link</source>
+        <translation>Delingslenke</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -156,8 +156,8 @@
         <translation>Inaktiv</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Slett</translation>
+        <source>Deleted</source>
+        <translation>Slettet</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -316,7 +316,7 @@
         <translation>Denne datamaskinen er allerede knyttet til den samme NAS-enheten. Rediger den eksisterende tilkoblingen i stedet.</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>%1 element(er)</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>Flere detaljer</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>Mapper du fjerner merket for her, blir fjernet fra denne datamaskinen. Kopiene på NAS-enheten beholdes. Vil du fortsette?</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>Status</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Kopier til</translation>
+        <source>Copy to:</source>
+        <translation>Kopier til:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -584,12 +584,12 @@
         <translation>Siste side</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Tidspunkt</translation>
+        <source>Date and time</source>
+        <translation>Dato og klokkeslett</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Gi nytt navn</translation>
+        <source>Renamed</source>
+        <translation>Gitt nytt navn</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -912,12 +912,12 @@
         <translation>Synkroniser med en annen NAS-enhet</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>Oppretter en Quillmere-mappe på datamaskinen og holder den synkronisert med hjemmemappen din på NAS-enheten fra Orvane. (Anbefales for personlig bruk)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>Oppretter en Quillmere-mappe på datamaskinen og holder den synkronisert med hjemmemappen din på NAS-enheten fra Orvane (anbefales for personlig bruk).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Klikk her for å oppdatere</translation>
+        <source>Click here to upgrade</source>
+        <translation>Klikk her for å oppgradere</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,8 +1020,8 @@
         <translation>Gå tilbake til en tidligere versjon</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Last opp</translation>
+        <source>Uploaded</source>
+        <translation>Lastet opp</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1048,8 +1048,8 @@
         <translation>&amp;Fullfør</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>Aktiver SSL-kryptering for dataoverføring</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>Krypter tilkoblingen med SSL</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>SSL-sertifikatet for NAS-enheten er endret. Bekreft det nye sertifikatet før du velger en mappe.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Fjern tilknytning</translation>
+        <source>Remove</source>
+        <translation>Fjern</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>Finner ikke den delte mappen</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Fjern tilknytning</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1141,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Lar deg velge en mappe på datamaskinen som skal holdes synkronisert med en delt mappe på NAS-enheten fra Orvane. (Anbefales for samarbeid).</translation>
+        <translation>Lar deg velge en mappe på datamaskinen som skal holdes synkronisert med en delt mappe på NAS-enheten fra Orvane (anbefales for samarbeid).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1220,10 +1224,6 @@
         <translation>Bruk en RapidHail-tilkobling</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>Krypter tilkoblingen med SSL</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}Installasjonsveiviseren for [ProductName] ble avsluttet for tidlig</translation>
     </message>
@@ -1272,7 +1272,7 @@
         <translation>Fjerner tilknytning...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>La &amp;programmene være åpne (omstart vil være nødvendig)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>Nylig endrede filer</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>Fjern tilknytningen</translation>
+        <source>Unlink from the NAS</source>
+        <translation>Fjern tilknytningen til NAS-enheten</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,8 +1380,8 @@
         <translation>Direkte tilkobling</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Last ned</translation>
+        <source>Downloaded</source>
+        <translation>Lastet ned</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1480,8 +1480,8 @@
         <translation>De forrige %1 sidene</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>Bekreftelseskoden (OTP) er ugyldig. Kontroller koden og prøv på nytt.</translation>
+        <source>The verification code is invalid. Please check the code and try again.</source>
+        <translation>Bekreftelseskoden er ugyldig. Kontroller koden og prøv på nytt.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1496,16 +1496,16 @@
         <translation>Vis ikonoverlegg på filer som er utelatt av filfilteret</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Legg til en ny synkroniseringsoppgave</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>Filer som skal synkroniseres</translation>
     </message>
     <message>
         <source>File</source>
         <translation>Fil</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Del lenke</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,7 +1568,7 @@
         <translation>N&amp;ei</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
         <translation>Klikk på «Reparer» for å gjenopprette manglende eller skadede filer, snarveier og registeroppføringer. Klikk på «Tilbake» for å se gjennom valget ditt.</translation>
     </message>
     <message>
@@ -1580,7 +1580,7 @@
         <translation>Ikke vis denne meldingen igjen</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Reparerer feil i den siste installasjonen ved å gjenopprette manglende eller skadede filer, snarveier og registeroppføringer.</translation>
     </message>
     <message>
@@ -1688,10 +1688,6 @@
         <translation>Endre de installerte funksjonene</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Tilkoblingsdetaljer</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Hvis du ikke lenger trenger programmet, kan du fjerne det nå. De synkroniserte filene beholdes på denne datamaskinen.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>Den valgte mappen er skrivebeskyttet. Velg en mappe du kan skrive til.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>Er du sikker på at du vil fjerne tilknytningen for synkroniseringsoppgaven «%1»? Filene på denne datamaskinen og på NAS-enheten beholdes.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>Er du sikker på at du vil fjerne synkroniseringsoppgaven «%1»? Filene på denne datamaskinen og på NAS-enheten beholdes.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,8 +1736,8 @@
         <translation>Quillmere Drive holder mappene på datamaskinene dine synkronisert med NAS-enheten fra Orvane.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
-        <translation>Skriv inn bekreftelseskoden (OTP)</translation>
+        <source>Enter the verification code</source>
+        <translation>Skriv inn bekreftelseskoden</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1784,8 +1780,8 @@
         <translation>Egendefinert intervall</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>Du har nådd grensen på %1 synkroniseringsoppgaver. Fjern tilknytningen for en synkroniseringsoppgave før du legger til en ny.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>Du har nådd grensen på %1 synkroniseringsoppgaver. Fjern en synkroniseringsoppgave før du legger til en ny.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,8 +1812,8 @@
         <translation>Hold filene dine synkronisert mellom denne datamaskinen og NAS-enheten, og få tilgang til dem uansett hvor du er.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>Kontoen din er beskyttet med totrinnsbekreftelse. Skriv inn bekreftelseskoden (OTP) for å fortsette.</translation>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
+        <translation>Kontoen din er beskyttet med totrinnsbekreftelse. Skriv inn bekreftelseskoden for å fortsette.</translation>
     </message>
     <message>
         <source>Edit file filter</source>
@@ -1876,6 +1872,10 @@
         <translation>Installasjonsveiviseren er klar til å begynne installasjonen.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Slett</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>Synkroniserer %1 fil(er)</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>Reparer gjeldende installasjon</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Oppdaterer...</translation>
+        <source>Upgrading...</source>
+        <translation>Oppgraderer...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

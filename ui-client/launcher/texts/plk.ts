@@ -36,7 +36,7 @@
         <translation>Wyjdź</translation>
     </message>
     <message>
-        <source>Share link</source>
+        <source>Sharing link</source>
         <translation>Link udostępniania</translation>
     </message>
     <message>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Nie można odczytać lokalnej bazy danych synchronizacji. Uruchom ponownie aplikację Quillmere Drive. Jeśli problem będzie się powtarzać, powiąż ten komputer ponownie.</translation>
+        <translation>Nie można odczytać lokalnej bazy danych synchronizacji. Uruchom ponownie aplikację Quillmere Drive. Jeśli problem będzie się powtarzać, powiąż ten komputer ponownie z serwerem NAS.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -156,8 +156,8 @@
         <translation>Nieaktywne</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Usuń</translation>
+        <source>Deleted</source>
+        <translation>Usunięcie</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -316,7 +316,7 @@
         <translation>Ten komputer jest już powiązany z tym samym serwerem NAS. Zamiast tego edytuj istniejące połączenie.</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>Elementy: %1</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>Więcej szczegółów</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>Odznaczone tutaj foldery zostaną usunięte z tego komputera. Kopie na serwerze NAS zostaną zachowane. Czy chcesz kontynuować?</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>Stan</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Kopiuj do</translation>
+        <source>Copy to:</source>
+        <translation>Kopiuj do:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>Serwer NAS pod tym adresem nie jest serwerem, z którym powiązano ten komputer. Sprawdź adres lub powiąż komputer ponownie.</translation>
+        <translation>Serwer NAS pod tym adresem nie jest serwerem, z którym powiązano ten komputer. Sprawdź adres lub powiąż komputer ponownie z serwerem NAS.</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -569,11 +569,11 @@
     </message>
     <message>
         <source>This file cannot be downloaded. It may have been deleted, or you may not have permission to access it.</source>
-        <translation>Nie można pobrać tego pliku. Być może został usunięty lub nie masz uprawnień dostępu do niego.</translation>
+        <translation>Nie można pobrać tego pliku. Być może został usunięty lub nie masz do niego dostępu.</translation>
     </message>
     <message>
         <source>The IP address of this computer is not allowed to access the NAS. Contact the administrator.</source>
-        <translation>Adres IP tego komputera nie ma zezwolenia na dostęp do serwera NAS. Skontaktuj się z administratorem.</translation>
+        <translation>Dostęp do serwera NAS z adresu IP tego komputera jest niedozwolony. Skontaktuj się z administratorem.</translation>
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
@@ -584,12 +584,12 @@
         <translation>Ostatnia strona</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Godzina</translation>
+        <source>Date and time</source>
+        <translation>Data i godzina</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Zmień nazwę</translation>
+        <source>Renamed</source>
+        <translation>Zmiana nazwy</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>The RapidHail service cannot be reached. Check your internet connection and try again.</source>
-        <translation>Usługa RapidHail jest nieosiągalna. Sprawdź połączenie internetowe i spróbuj ponownie.</translation>
+        <translation>Nie można połączyć się z usługą RapidHail. Sprawdź połączenie internetowe i spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Friday</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>Serwer NAS pod tym adresem uległ zmianie. Powiąż ten komputer ponownie.</translation>
+        <translation>Serwer NAS pod tym adresem uległ zmianie. Powiąż ten komputer ponownie z serwerem NAS.</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Right-click a file and select &quot;Share link&quot; to create a link. Send it to anyone who needs the file, even if they have no account on your NAS.</source>
-        <translation>Kliknij plik prawym przyciskiem myszy i wybierz polecenie „Link udostępniania”, aby utworzyć link. Wyślij go każdemu, kto potrzebuje tego pliku, nawet jeśli nie ma konta na Twoim serwerze NAS.</translation>
+        <translation>Kliknij plik prawym przyciskiem myszy i wybierz polecenie „Udostępnij link”, aby utworzyć link. Wyślij go każdemu, kto potrzebuje tego pliku, nawet jeśli nie ma konta na Twoim serwerze NAS.</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -912,12 +912,12 @@
         <translation>Synchronizuj z innym serwerem NAS</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>Na komputerze zostanie utworzony folder Quillmere, synchronizowany z Twoim folderem domowym na serwerze NAS firmy Orvane. (Zalecane do użytku osobistego)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>Na komputerze zostanie utworzony folder Quillmere, synchronizowany z Twoim folderem domowym na serwerze NAS firmy Orvane (zalecane do użytku osobistego).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Kliknij tutaj, aby zaktualizować</translation>
+        <source>Click here to upgrade</source>
+        <translation>Kliknij tutaj, aby uaktualnić</translation>
     </message>
     <message>
         <source>April</source>
@@ -945,7 +945,7 @@
     </message>
     <message>
         <source>The NAS sent an unexpected response. Make sure that Quillmere Drive and Quillmere Drive Server are both up to date.</source>
-        <translation>Serwer NAS wysłał nieoczekiwaną odpowiedź. Upewnij się, że zarówno aplikacja Quillmere Drive, jak i aplikacja Quillmere Drive Server są aktualne.</translation>
+        <translation>Serwer NAS wysłał nieoczekiwaną odpowiedź. Upewnij się, że aplikacje Quillmere Drive i Quillmere Drive Server są aktualne.</translation>
     </message>
     <message>
         <source>Exclude this folder from sync</source>
@@ -1020,8 +1020,8 @@
         <translation>Wróć do wcześniejszej wersji</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Prześlij</translation>
+        <source>Uploaded</source>
+        <translation>Przesłanie</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1048,8 +1048,8 @@
         <translation>&amp;Zakończ</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>Włącz szyfrowanie SSL podczas przesyłania danych</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>Szyfruj połączenie za pomocą protokołu SSL</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>Certyfikat SSL serwera NAS uległ zmianie. Potwierdź nowy certyfikat przed wybraniem folderu.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Usuń powiązanie</translation>
+        <source>Remove</source>
+        <translation>Usuń</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>Nie znaleziono folderu udostępnionego</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Usuń powiązanie</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1141,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Możesz wskazać na komputerze folder, który będzie synchronizowany z folderem udostępnionym na serwerze NAS firmy Orvane. (Zalecane do pracy zespołowej).</translation>
+        <translation>Możesz wskazać na komputerze folder, który będzie synchronizowany z folderem udostępnionym na serwerze NAS firmy Orvane (zalecane do pracy zespołowej).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1217,11 +1221,7 @@
     </message>
     <message>
         <source>Use a RapidHail connection</source>
-        <translation>Użyj połączenia RapidHail</translation>
-    </message>
-    <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>Szyfruj połączenie za pomocą protokołu SSL</translation>
+        <translation>Używaj połączenia RapidHail</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
@@ -1265,14 +1265,14 @@
     </message>
     <message>
         <source>Use the system proxy settings</source>
-        <translation>Użyj systemowych ustawień serwera proxy</translation>
+        <translation>Używaj systemowych ustawień serwera proxy</translation>
     </message>
     <message>
         <source>Unlinking...</source>
         <translation>Usuwanie powiązania...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>Pozostaw aplikacje &amp;otwarte (konieczne będzie ponowne uruchomienie)</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Ostatnio zmienione pliki</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
+        <source>Unlink from the NAS</source>
         <translation>Usuń powiązanie z serwerem NAS</translation>
     </message>
     <message>
@@ -1373,15 +1373,15 @@
     </message>
     <message>
         <source>NAS overview</source>
-        <translation>Przegląd serwera NAS</translation>
+        <translation>Informacje o serwerze NAS</translation>
     </message>
     <message>
         <source>Direct connection</source>
         <translation>Połączenie bezpośrednie</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Pobierz</translation>
+        <source>Downloaded</source>
+        <translation>Pobranie</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1457,7 +1457,7 @@
     </message>
     <message>
         <source>%1 day(s) ago</source>
-        <translation>Dni temu: %1</translation>
+        <translation>%1 dzień (dni) temu</translation>
     </message>
     <message>
         <source>You can now sync the shared folder &quot;%1&quot;. Click here to enable it.</source>
@@ -1473,14 +1473,14 @@
     </message>
     <message>
         <source>There is no folder that can be synced.</source>
-        <translation>Brak folderu, który można synchronizować.</translation>
+        <translation>Brak folderów, które można synchronizować.</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
         <translation>Przejdź o %1 str. wstecz</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
+        <source>The verification code is invalid. Please check the code and try again.</source>
         <translation>Kod weryfikacyjny jest nieprawidłowy. Sprawdź kod i spróbuj ponownie.</translation>
     </message>
     <message>
@@ -1496,16 +1496,16 @@
         <translation>Pokazuj nakładki ikon na plikach wykluczonych przez filtr plików</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Dodaj kolejne zadanie synchronizacji</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>Pliki do synchronizacji</translation>
     </message>
     <message>
         <source>File</source>
         <translation>Plik</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Udostępnij link</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>&amp;Nie</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Kliknij przycisk „Napraw”, aby naprawić uszkodzone lub przywrócić brakujące pliki, skróty i wpisy rejestru. Kliknij przycisk „Wstecz”, aby sprawdzić swój wybór.</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>Kliknij przycisk „Napraw”, aby przywrócić brakujące lub uszkodzone pliki, skróty i wpisy rejestru. Kliknij przycisk „Wstecz”, aby sprawdzić swój wybór.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,7 +1580,7 @@
         <translation>Nie pokazuj więcej tego komunikatu</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Naprawia błędy ostatniej instalacji, przywracając brakujące lub uszkodzone pliki, skróty i wpisy rejestru.</translation>
     </message>
     <message>
@@ -1688,10 +1688,6 @@
         <translation>Zmień zainstalowane funkcje</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Szczegóły połączenia</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Jeśli program nie jest już potrzebny, możesz go teraz usunąć. Zsynchronizowane pliki pozostaną na tym komputerze.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>Wybrany folder jest tylko do odczytu. Wybierz folder z możliwością zapisu.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>Czy na pewno chcesz usunąć powiązanie zadania synchronizacji „%1”? Pliki na tym komputerze i na serwerze NAS zostaną zachowane.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>Czy na pewno chcesz usunąć zadanie synchronizacji „%1”? Pliki na tym komputerze i na serwerze NAS zostaną zachowane.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,7 +1736,7 @@
         <translation>Aplikacja Quillmere Drive synchronizuje foldery na Twoich komputerach z serwerem NAS firmy Orvane.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
+        <source>Enter the verification code</source>
         <translation>Wpisz kod weryfikacyjny</translation>
     </message>
     <message>
@@ -1784,8 +1780,8 @@
         <translation>Zakres niestandardowy</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>Osiągnięto maksymalną liczbę zadań synchronizacji (%1). Zanim dodasz kolejne, usuń powiązanie jednego z zadań synchronizacji.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>Osiągnięto maksymalną liczbę zadań synchronizacji (%1). Zanim dodasz kolejne, usuń jedno z zadań synchronizacji.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,7 +1812,7 @@
         <translation>Synchronizuj pliki między tym komputerem a serwerem NAS i korzystaj z nich, gdziekolwiek jesteś.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
         <translation>Twoje konto jest chronione uwierzytelnianiem dwuskładnikowym. Wpisz kod weryfikacyjny, aby kontynuować.</translation>
     </message>
     <message>
@@ -1876,6 +1872,10 @@
         <translation>Kreator instalacji jest gotowy do rozpoczęcia instalacji.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>Synchronizowane pliki: %1</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>Napraw bieżącą instalację</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Aktualizowanie...</translation>
+        <source>Upgrading...</source>
+        <translation>Uaktualnianie...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

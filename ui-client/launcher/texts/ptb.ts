@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Choose a setup mode</source>
-        <translation>Escolha um modo de configuração</translation>
+        <translation>Escolher um modo de configuração</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -36,8 +36,8 @@
         <translation>Sair</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Compartilhar link</translation>
+        <source>Sharing link</source>
+        <translation>Link de compartilhamento</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Choose the folders to sync</source>
-        <translation>Escolha as pastas a sincronizar</translation>
+        <translation>Escolher as pastas para sincronizar</translation>
     </message>
     <message>
         <source>Every file you put in a synced folder is copied to your NAS automatically. Just save your work and let Quillmere Drive do the rest.</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>The icon in the system tray shows the sync status at a glance. Click it to pause syncing, view recent changes, or open the settings.</source>
-        <translation>Com o ícone na bandeja do sistema, você vê num relance o status da sincronização. Clique nele para pausar a sincronização, ver as alterações recentes ou abrir as configurações.</translation>
+        <translation>O ícone na bandeja do sistema mostra rapidamente o status da sincronização. Clique nele para pausar a sincronização, ver as alterações recentes ou abrir as configurações.</translation>
     </message>
     <message>
         <source>Paused</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Mount point not supported</source>
-        <translation>Ponto de montagem não suportado</translation>
+        <translation>Ponto de montagem sem suporte</translation>
     </message>
     <message>
         <source>Linking...</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Enabled</source>
-        <translation>Ativado</translation>
+        <translation>Ativada</translation>
     </message>
     <message>
         <source>Browse previous versions</source>
@@ -156,8 +156,8 @@
         <translation>Inativa</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Excluir</translation>
+        <source>Deleted</source>
+        <translation>Excluído</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs [ProductName]. This may take several minutes.</source>
-        <translation>Aguarde enquanto o [ProductName] é instalado. Isso pode levar alguns minutos.</translation>
+        <translation>Aguarde enquanto o Assistente de Instalação instala o [ProductName]. Isso pode levar alguns minutos.</translation>
     </message>
     <message>
         <source>Saturday</source>
@@ -316,7 +316,7 @@
         <translation>Este computador já está vinculado ao mesmo NAS. Edite a conexão existente.</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>%1 item(ns)</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>Mais detalhes</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>As pastas que você desmarcar aqui serão removidas deste computador. As cópias no NAS serão mantidas. Deseja continuar?</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>Status</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Copiar para</translation>
+        <source>Copy to:</source>
+        <translation>Copiar para:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>The administrator requires two-factor verification for your account. Sign in to the NAS in a web browser and set it up first.</source>
-        <translation>O administrador exige verificação em dois fatores para a sua conta. Entre no NAS por um navegador da Web e configure-a primeiro.</translation>
+        <translation>O administrador exige verificação em duas etapas para a sua conta. Entre no NAS por um navegador da Web e configure-a primeiro.</translation>
     </message>
     <message>
         <source>The sync direction of this folder does not match the permissions on the NAS. Please change the sync direction.</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choice.</source>
-        <translation>Clique em &quot;Remover&quot; para remover o [ProductName] do computador. Clique em &quot;Voltar&quot; para rever sua escolha.</translation>
+        <translation>Clique em &quot;Remover&quot; para remover o [ProductName] do computador. Clique em &quot;Voltar&quot; para revisar sua escolha.</translation>
     </message>
     <message>
         <source>Quillmere Drive Server is not running on the NAS. Start it or contact the administrator.</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Disabled</source>
-        <translation>Desativado</translation>
+        <translation>Desativada</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>Click Install to begin installing [ProductName]. Click Back to review or change your settings. Click Cancel to exit the wizard.</source>
-        <translation>Clique em &quot;Instalar&quot; para iniciar a instalação do [ProductName]. Clique em &quot;Voltar&quot; para rever ou alterar as configurações. Clique em &quot;Cancelar&quot; para sair do assistente.</translation>
+        <translation>Clique em &quot;Instalar&quot; para iniciar a instalação do [ProductName]. Clique em &quot;Voltar&quot; para revisar ou alterar as configurações. Clique em &quot;Cancelar&quot; para sair do assistente.</translation>
     </message>
     <message>
         <source>Syncing</source>
@@ -584,12 +584,12 @@
         <translation>Última página</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Hora</translation>
+        <source>Date and time</source>
+        <translation>Data e hora</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Renomear</translation>
+        <source>Renamed</source>
+        <translation>Renomeado</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Folders to sync</source>
-        <translation>Pastas a sincronizar</translation>
+        <translation>Pastas para sincronizar</translation>
     </message>
     <message>
         <source>RapidHail</source>
@@ -633,7 +633,7 @@
     </message>
     <message>
         <source>Enter the IP address, hostname, or RapidHail ID of your NAS.</source>
-        <translation>Digite o endereço IP, o nome do host ou o ID do RapidHail do NAS.</translation>
+        <translation>Digite o endereço IP, o nome do host ou o ID do RapidHail do seu NAS.</translation>
     </message>
     <message>
         <source>Wednesday</source>
@@ -912,12 +912,12 @@
         <translation>Sincronizar com outro NAS</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>Cria uma pasta Quillmere no computador e a mantém sincronizada com sua pasta pessoal no NAS da Orvane. (Recomendado para uso pessoal)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>Cria uma pasta Quillmere no computador e a mantém sincronizada com sua pasta pessoal no NAS da Orvane (recomendado para uso pessoal).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Clique aqui para atualizar</translation>
+        <source>Click here to upgrade</source>
+        <translation>Clique aqui para atualizar a versão</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,8 +1020,8 @@
         <translation>Volte a uma versão anterior</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Carregar</translation>
+        <source>Uploaded</source>
+        <translation>Carregado</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1048,8 +1048,8 @@
         <translation>&amp;Concluir</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>Ativar a criptografia SSL para a transferência de dados</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>Criptografar a conexão com SSL</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>O certificado SSL do NAS mudou. Confirme o novo certificado antes de selecionar uma pasta.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Desvincular</translation>
+        <source>Remove</source>
+        <translation>Remover</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>Pasta compartilhada não encontrada</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Desvincular</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1093,7 +1097,7 @@
     </message>
     <message>
         <source>Set up the folder to sync</source>
-        <translation>Configurar a pasta a sincronizar</translation>
+        <translation>Configurar a pasta para sincronizar</translation>
     </message>
     <message>
         <source>Enter the connection settings for your NAS.</source>
@@ -1141,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Permite especificar uma pasta no computador para mantê-la sincronizada com uma pasta compartilhada no NAS da Orvane. (Recomendado para trabalho em equipe).</translation>
+        <translation>Permite especificar uma pasta no computador para mantê-la sincronizada com uma pasta compartilhada no NAS da Orvane (recomendado para trabalho em equipe).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1185,7 +1189,7 @@
     </message>
     <message>
         <source>Quick setup</source>
-        <translation>Configuração rápida</translation>
+        <translation>Modo rápido</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1218,10 +1222,6 @@
     <message>
         <source>Use a RapidHail connection</source>
         <translation>Usar uma conexão RapidHail</translation>
-    </message>
-    <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>Criptografar a conexão com SSL</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
@@ -1272,7 +1272,7 @@
         <translation>Desvinculando...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>&amp;Deixar os aplicativos abertos (será necessário reiniciar)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>Arquivos alterados recentemente</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>Desvincular conexão</translation>
+        <source>Unlink from the NAS</source>
+        <translation>Desvincular do NAS</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,8 +1380,8 @@
         <translation>Conexão direta</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Baixar</translation>
+        <source>Downloaded</source>
+        <translation>Baixado</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>No, thanks</source>
-        <translation>Não, obrigado</translation>
+        <translation>Agora não</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -1465,7 +1465,7 @@
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Fazendo upload...</translation>
+        <translation>Carregando para o NAS...</translation>
     </message>
     <message>
         <source>Your Quillmere folder is ready. Drop files into it and they will be synced with your NAS.</source>
@@ -1480,8 +1480,8 @@
         <translation>%1 páginas anteriores</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>O código OTP é inválido. Verifique o código e tente novamente.</translation>
+        <source>The verification code is invalid. Please check the code and try again.</source>
+        <translation>O código de verificação é inválido. Confira o código e tente novamente.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1496,16 +1496,16 @@
         <translation>Mostrar sobreposições de ícone em arquivos ignorados pelo filtro de arquivos</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Adicionar outra tarefa de sincronização</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
-        <translation>Arquivos a sincronizar</translation>
+        <translation>Arquivos para sincronizar</translation>
     </message>
     <message>
         <source>File</source>
         <translation>Arquivo</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Compartilhar link</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>&amp;Não</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Clique em &quot;Reparar&quot; para corrigir arquivos, atalhos e entradas do Registro ausentes ou danificados. Clique em &quot;Voltar&quot; para rever sua escolha.</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>Clique em &quot;Reparar&quot; para restaurar arquivos, atalhos e entradas do Registro ausentes ou danificados. Clique em &quot;Voltar&quot; para revisar sua escolha.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,12 +1580,12 @@
         <translation>Não mostrar esta mensagem novamente</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>Repara erros na instalação mais recente, corrigindo arquivos, atalhos e entradas do Registro ausentes ou danificados.</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>Repara erros na instalação mais recente, restaurando arquivos, atalhos e entradas do Registro ausentes ou danificados.</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
-        <translation>Número de vezes que o link pode ser aberto</translation>
+        <translation>Número de vezes em que o link pode ser aberto</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -1688,10 +1688,6 @@
         <translation>Alterar os recursos instalados</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Detalhes da conexão</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Se você não precisa mais do programa, pode removê-lo agora. Seus arquivos sincronizados serão mantidos neste computador.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>A pasta selecionada é somente leitura. Escolha uma pasta em que você possa gravar.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>Tem certeza de que deseja desvincular a tarefa de sincronização &quot;%1&quot;? Os arquivos neste computador e no NAS serão mantidos.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>Tem certeza de que deseja remover a tarefa de sincronização &quot;%1&quot;? Os arquivos neste computador e no NAS serão mantidos.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,8 +1736,8 @@
         <translation>O Quillmere Drive mantém as pastas dos seus computadores sincronizadas com o NAS da Orvane.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
-        <translation>Digite o código OTP</translation>
+        <source>Enter the verification code</source>
+        <translation>Digite o código de verificação</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1777,15 +1773,15 @@
     </message>
     <message>
         <source>Advanced setup</source>
-        <translation>Configuração avançada</translation>
+        <translation>Modo avançado</translation>
     </message>
     <message>
         <source>Custom range</source>
         <translation>Período personalizado</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>Você atingiu o limite máximo de tarefas de sincronização (%1). Desvincule uma tarefa de sincronização antes de adicionar outra.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>Você atingiu o limite de tarefas de sincronização (%1). Remova uma tarefa de sincronização antes de adicionar outra.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,8 +1812,8 @@
         <translation>Mantenha seus arquivos sincronizados entre este computador e o NAS e acesse-os onde quer que você esteja.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>Sua conta está protegida pela verificação em dois fatores. Digite o código OTP para continuar.</translation>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
+        <translation>Sua conta está protegida pela verificação em duas etapas. Digite o código de verificação para continuar.</translation>
     </message>
     <message>
         <source>Edit file filter</source>
@@ -1876,6 +1872,10 @@
         <translation>O Assistente de Instalação está pronto para iniciar a instalação.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>Sincronizando %1 arquivo(s)</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>Reparar a instalação atual</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Atualizando...</translation>
+        <source>Upgrading...</source>
+        <translation>Atualizando a versão...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

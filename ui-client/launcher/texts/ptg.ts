@@ -36,8 +36,8 @@
         <translation>Sair</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Partilhar ligação</translation>
+        <source>Sharing link</source>
+        <translation>Hiperligação de partilha</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Set a start date for this link</source>
-        <translation>Definir uma data de início para esta ligação</translation>
+        <translation>Definir uma data de início para esta hiperligação</translation>
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Enabled</source>
-        <translation>Ativado</translation>
+        <translation>Ativada</translation>
     </message>
     <message>
         <source>Browse previous versions</source>
@@ -156,8 +156,8 @@
         <translation>Inativa</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Eliminar</translation>
+        <source>Deleted</source>
+        <translation>Eliminação</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Upgrade now</source>
-        <translation>Atualizar agora</translation>
+        <translation>Atualizar versão agora</translation>
     </message>
     <message>
         <source>Computer name</source>
@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>Link expires after</source>
-        <translation>A ligação expira após</translation>
+        <translation>A hiperligação expira após</translation>
     </message>
     <message>
         <source>You have unsaved changes. Do you want to leave this page without saving them?</source>
@@ -316,8 +316,8 @@
         <translation>Este computador já está associado ao mesmo NAS. Em alternativa, edite a ligação existente.</translation>
     </message>
     <message>
-        <source>%1 items</source>
-        <translation>%1 itens</translation>
+        <source>%1 item(s)</source>
+        <translation>%1 item(ns)</translation>
     </message>
     <message>
         <source>Pause connection</source>
@@ -336,7 +336,7 @@
         <translation>Mais detalhes</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>As pastas que desmarcar aqui serão removidas deste computador. As cópias no NAS serão mantidas. Pretende continuar?</translation>
     </message>
     <message>
@@ -353,11 +353,11 @@
     </message>
     <message>
         <source>Restrict access to this link</source>
-        <translation>Restringir o acesso a esta ligação</translation>
+        <translation>Restringir o acesso a esta hiperligação</translation>
     </message>
     <message>
         <source>The link could not be created. Make sure that file sharing is enabled in Quillmere Drive Server.</source>
-        <translation>Não foi possível criar a ligação. Certifique-se de que a partilha de ficheiros está ativada em Quillmere Drive Server.</translation>
+        <translation>Não foi possível criar a hiperligação. Certifique-se de que a partilha de ficheiros está ativada em Quillmere Drive Server.</translation>
     </message>
     <message>
         <source>More tutorials</source>
@@ -372,8 +372,8 @@
         <translation>Estado</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Copiar para</translation>
+        <source>Copy to:</source>
+        <translation>Copiar para:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Disabled</source>
-        <translation>Desativado</translation>
+        <translation>Desativada</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -584,12 +584,12 @@
         <translation>Última página</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Hora</translation>
+        <source>Date and time</source>
+        <translation>Data e hora</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Mudar o nome</translation>
+        <source>Renamed</source>
+        <translation>Mudança de nome</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>Are you sure you want to delete this link? People who have it will no longer be able to open the file.</source>
-        <translation>Tem a certeza de que pretende eliminar esta ligação? As pessoas que a tenham deixarão de poder abrir o ficheiro.</translation>
+        <translation>Tem a certeza de que pretende eliminar esta hiperligação? As pessoas que a tenham deixarão de poder abrir o ficheiro.</translation>
     </message>
     <message>
         <source>Change folder</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Right-click a file and select &quot;Share link&quot; to create a link. Send it to anyone who needs the file, even if they have no account on your NAS.</source>
-        <translation>Clique com o botão direito do rato num ficheiro e selecione “Partilhar ligação” para criar uma ligação. Envie-a a quem precisar do ficheiro, mesmo que não tenha conta no seu NAS.</translation>
+        <translation>Clique com o botão direito do rato num ficheiro e selecione “Partilhar hiperligação” para criar uma hiperligação. Envie-a a quem precisar do ficheiro, mesmo que não tenha conta no seu NAS.</translation>
     </message>
     <message>
         <source>Sync mode</source>
@@ -912,12 +912,12 @@
         <translation>Sincronizar com outro NAS</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>Cria uma pasta Quillmere no computador e mantém-na sincronizada com a sua pasta pessoal no NAS da Orvane. (Recomendado para utilização pessoal)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>Cria uma pasta Quillmere no computador e mantém-na sincronizada com a sua pasta pessoal no NAS da Orvane (recomendado para utilização pessoal).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Clique aqui para atualizar</translation>
+        <source>Click here to upgrade</source>
+        <translation>Clique aqui para atualizar a versão</translation>
     </message>
     <message>
         <source>April</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>has been shared. The link was copied to the clipboard.</source>
-        <translation>foi partilhado. A ligação foi copiada para a área de transferência.</translation>
+        <translation>foi partilhado. A hiperligação foi copiada para a área de transferência.</translation>
     </message>
     <message>
         <source>The NAS sent an unexpected response. Make sure that Quillmere Drive and Quillmere Drive Server are both up to date.</source>
@@ -1005,7 +1005,7 @@
     </message>
     <message>
         <source>Delete link</source>
-        <translation>Eliminar ligação</translation>
+        <translation>Eliminar hiperligação</translation>
     </message>
     <message>
         <source>This sync task is inactive because the shared folder is not available.</source>
@@ -1020,8 +1020,8 @@
         <translation>Volte a uma versão anterior</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Carregar</translation>
+        <source>Uploaded</source>
+        <translation>Carregamento</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1048,8 +1048,8 @@
         <translation>&amp;Concluir</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>Ativar a encriptação SSL na transferência de dados</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>Encriptar a ligação com SSL</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>O certificado SSL do NAS foi alterado. Confirme o novo certificado antes de selecionar uma pasta.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Desassociar</translation>
+        <source>Remove</source>
+        <translation>Remover</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>Pasta partilhada não encontrada</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Desassociar</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1105,7 +1109,7 @@
     </message>
     <message>
         <source>Share files with a link</source>
-        <translation>Partilhe ficheiros através de uma ligação</translation>
+        <translation>Partilhe ficheiros através de uma hiperligação</translation>
     </message>
     <message>
         <source>File type</source>
@@ -1141,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Permite escolher uma pasta do computador para a manter sincronizada com uma pasta partilhada no NAS da Orvane. (Recomendado para trabalho em equipa).</translation>
+        <translation>Permite escolher uma pasta do computador para a manter sincronizada com uma pasta partilhada no NAS da Orvane (recomendado para trabalho em equipa).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1193,7 +1197,7 @@
     </message>
     <message>
         <source>Links cannot be created over a RapidHail connection because file sharing is disabled on the NAS.</source>
-        <translation>Não é possível criar ligações de partilha através de uma ligação RapidHail porque a partilha de ficheiros está desativada no NAS.</translation>
+        <translation>Não é possível criar hiperligações de partilha através de uma ligação RapidHail porque a partilha de ficheiros está desativada no NAS.</translation>
     </message>
     <message>
         <source>Manage shared folders</source>
@@ -1220,10 +1224,6 @@
         <translation>Utilizar uma ligação RapidHail</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>Encriptar a ligação com SSL</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}O Assistente de Instalação de [ProductName] terminou prematuramente</translation>
     </message>
@@ -1241,7 +1241,7 @@
     </message>
     <message>
         <source>Set an expiration date for this link</source>
-        <translation>Definir uma data de validade para esta ligação</translation>
+        <translation>Definir uma data de validade para esta hiperligação</translation>
     </message>
     <message>
         <source>Change local folder</source>
@@ -1272,7 +1272,7 @@
         <translation>A desassociar...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>&amp;Deixar as aplicações abertas (será necessário reiniciar)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>Ficheiros alterados recentemente</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>Desassociar ligação</translation>
+        <source>Unlink from the NAS</source>
+        <translation>Desassociar do NAS</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,8 +1380,8 @@
         <translation>Ligação direta</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Transferir</translation>
+        <source>Downloaded</source>
+        <translation>Transferência</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1480,8 +1480,8 @@
         <translation>%1 páginas anteriores</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>O código OTP é inválido. Verifique o código e tente novamente.</translation>
+        <source>The verification code is invalid. Please check the code and try again.</source>
+        <translation>O código de verificação é inválido. Verifique o código e tente novamente.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1496,16 +1496,16 @@
         <translation>Mostrar sobreposições de ícone nos ficheiros excluídos pelo filtro de ficheiros</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Adicionar outra tarefa de sincronização</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>Ficheiros a sincronizar</translation>
     </message>
     <message>
         <source>File</source>
         <translation>Ficheiro</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Partilhar hiperligação</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>You can also protect a link with a password or set an expiration date.</source>
-        <translation>Também pode proteger uma ligação com palavra-passe ou definir uma data de validade.</translation>
+        <translation>Também pode proteger uma hiperligação com palavra-passe ou definir uma data de validade.</translation>
     </message>
     <message>
         <source>All your files, always at hand</source>
@@ -1568,8 +1568,8 @@
         <translation>&amp;Não</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Clique em “Reparar” para corrigir ficheiros, atalhos e entradas de registo em falta ou danificados. Clique em “Anterior” para rever a sua escolha.</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>Clique em “Reparar” para restaurar ficheiros, atalhos e entradas de registo em falta ou danificados. Clique em “Anterior” para rever a sua escolha.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,12 +1580,12 @@
         <translation>Não voltar a mostrar esta mensagem</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>Repara erros da instalação mais recente, corrigindo ficheiros, atalhos e entradas de registo em falta ou danificados.</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>Repara erros da instalação mais recente, restaurando ficheiros, atalhos e entradas de registo em falta ou danificados.</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
-        <translation>Número de vezes que a ligação pode ser aberta</translation>
+        <translation>Número de vezes que a hiperligação pode ser aberta</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -1688,10 +1688,6 @@
         <translation>Alterar as funcionalidades instaladas</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Detalhes da ligação</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Se já não precisar do programa, pode removê-lo agora. Os seus ficheiros sincronizados serão mantidos neste computador.</translation>
     </message>
@@ -1701,11 +1697,11 @@
     </message>
     <message>
         <source>The link could not be deleted. Please try again later.</source>
-        <translation>Não foi possível eliminar a ligação. Tente novamente mais tarde.</translation>
+        <translation>Não foi possível eliminar a hiperligação. Tente novamente mais tarde.</translation>
     </message>
     <message>
         <source>A link cannot be created for this file. Make sure that it has been synced to the NAS.</source>
-        <translation>Não é possível criar uma ligação para este ficheiro. Certifique-se de que foi sincronizado com o NAS.</translation>
+        <translation>Não é possível criar uma hiperligação para este ficheiro. Certifique-se de que foi sincronizado com o NAS.</translation>
     </message>
     <message>
         <source>Check all file attributes for changes</source>
@@ -1724,12 +1720,12 @@
         <translation>A pasta selecionada é só de leitura. Escolha uma pasta na qual possa escrever.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>Tem a certeza de que pretende desassociar a tarefa de sincronização “%1”? Os ficheiros neste computador e no NAS serão mantidos.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>Tem a certeza de que pretende remover a tarefa de sincronização “%1”? Os ficheiros neste computador e no NAS serão mantidos.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
-        <translation>Limitar o número de vezes que esta ligação pode ser aberta</translation>
+        <translation>Limitar o número de vezes que esta hiperligação pode ser aberta</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -1740,8 +1736,8 @@
         <translation>Quillmere Drive mantém as pastas dos seus computadores sincronizadas com o seu NAS da Orvane.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
-        <translation>Introduzir o código OTP</translation>
+        <source>Enter the verification code</source>
+        <translation>Introduzir o código de verificação</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1784,8 +1780,8 @@
         <translation>Intervalo personalizado</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>Atingiu o máximo de %1 tarefas de sincronização. Desassocie uma tarefa de sincronização antes de adicionar outra.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>Atingiu o máximo de %1 tarefas de sincronização. Remova uma tarefa de sincronização antes de adicionar outra.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,8 +1812,8 @@
         <translation>Mantenha os seus ficheiros sincronizados entre este computador e o seu NAS e aceda-lhes onde quer que esteja.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>A sua conta está protegida pela verificação de dois fatores. Introduza o código OTP para continuar.</translation>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
+        <translation>A sua conta está protegida pela verificação de dois fatores. Introduza o código de verificação para continuar.</translation>
     </message>
     <message>
         <source>Edit file filter</source>
@@ -1876,6 +1872,10 @@
         <translation>O Assistente de Instalação está pronto para iniciar a instalação.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>A sincronizar %1 ficheiro(s)</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>Reparar a instalação atual</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>A atualizar...</translation>
+        <source>Upgrading...</source>
+        <translation>A atualizar a versão...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

@@ -36,8 +36,8 @@
         <translation>Выход</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Поделиться ссылкой</translation>
+        <source>Sharing link</source>
+        <translation>Ссылка для общего доступа</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -156,8 +156,8 @@
         <translation>Неактивно</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Удалить</translation>
+        <source>Deleted</source>
+        <translation>Удаление</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs [ProductName]. This may take several minutes.</source>
-        <translation>Подождите, пока мастер установки устанавливает [ProductName]. Это может занять несколько минут.</translation>
+        <translation>Подождите, выполняется установка [ProductName]. Это может занять несколько минут.</translation>
     </message>
     <message>
         <source>Saturday</source>
@@ -316,7 +316,7 @@
         <translation>Этот компьютер уже привязан к тому же устройству NAS. Измените существующее подключение.</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>Элементов: %1</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>Подробнее</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>Папки, с которых вы снимете флажки, будут удалены с этого компьютера. Копии на устройстве NAS сохранятся. Продолжить?</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>Состояние</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Копировать в</translation>
+        <source>Copy to:</source>
+        <translation>Копировать в:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>Click Install to begin installing [ProductName]. Click Back to review or change your settings. Click Cancel to exit the wizard.</source>
-        <translation>Нажмите кнопку «Установить», чтобы начать установку [ProductName]. Чтобы просмотреть или изменить параметры, нажмите кнопку «Назад». Чтобы выйти из мастера, нажмите кнопку «Отмена».</translation>
+        <translation>Нажмите кнопку «Установить», чтобы начать установку [ProductName]. Чтобы просмотреть или изменить настройки, нажмите кнопку «Назад». Чтобы выйти из мастера, нажмите кнопку «Отмена».</translation>
     </message>
     <message>
         <source>Syncing</source>
@@ -565,7 +565,7 @@
     </message>
     <message>
         <source>NAS address</source>
-        <translation>Адрес NAS</translation>
+        <translation>Адрес устройства NAS</translation>
     </message>
     <message>
         <source>This file cannot be downloaded. It may have been deleted, or you may not have permission to access it.</source>
@@ -584,12 +584,12 @@
         <translation>Последняя страница</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Время</translation>
+        <source>Date and time</source>
+        <translation>Дата и время</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Переименовать</translation>
+        <source>Renamed</source>
+        <translation>Переименование</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -912,12 +912,12 @@
         <translation>Синхронизация с другим устройством NAS</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>На компьютере будет создана папка Quillmere, которая будет синхронизироваться с вашей домашней папкой на устройстве NAS Orvane. (Рекомендуется для личного использования)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>На компьютере будет создана папка Quillmere, которая будет синхронизироваться с вашей домашней папкой на устройстве NAS Orvane (рекомендуется для личного использования).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Щелкните здесь, чтобы обновить</translation>
+        <source>Click here to upgrade</source>
+        <translation>Щелкните здесь, чтобы перейти на новую версию</translation>
     </message>
     <message>
         <source>April</source>
@@ -965,7 +965,7 @@
     </message>
     <message>
         <source>Folder is read-only</source>
-        <translation>Папка только для чтения</translation>
+        <translation>Папка доступна только для чтения</translation>
     </message>
     <message>
         <source>{\DlgFont8}I &amp;accept the terms of the license agreement</source>
@@ -1020,8 +1020,8 @@
         <translation>Возвращайтесь к более ранним версиям</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Загрузить на сервер</translation>
+        <source>Uploaded</source>
+        <translation>Загрузка на сервер</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1048,8 +1048,8 @@
         <translation>&amp;Готово</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>Включить шифрование SSL при передаче данных</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>Шифровать подключение с помощью SSL</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>Сертификат SSL устройства NAS изменился. Подтвердите новый сертификат, прежде чем выбирать папку.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Отвязать</translation>
+        <source>Remove</source>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>Общая папка не найдена</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Отвязать</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1125,7 +1129,7 @@
     </message>
     <message>
         <source>Insufficient permissions</source>
-        <translation>Недостаточно разрешений</translation>
+        <translation>Недостаточно прав</translation>
     </message>
     <message>
         <source>Updated: %1</source>
@@ -1141,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Вы сможете указать папку на компьютере, которая будет синхронизироваться с общей папкой на устройстве NAS Orvane. (Рекомендуется для совместной работы).</translation>
+        <translation>Вы сможете указать папку на компьютере, которая будет синхронизироваться с общей папкой на устройстве NAS Orvane (рекомендуется для совместной работы).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1220,10 +1224,6 @@
         <translation>Использовать подключение RapidHail</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>Шифровать подключение с помощью SSL</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}Работа мастера установки [ProductName] завершена преждевременно</translation>
     </message>
@@ -1272,7 +1272,7 @@
         <translation>Отмена привязки...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>&amp;Оставить приложения открытыми (потребуется перезагрузка)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>Недавно измененные файлы</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>Отвязать подключение</translation>
+        <source>Unlink from the NAS</source>
+        <translation>Отвязать от устройства NAS</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1317,7 +1317,7 @@
     </message>
     <message>
         <source>Locked by another program</source>
-        <translation>Заблокировано другой программой</translation>
+        <translation>Файл заблокирован другой программой</translation>
     </message>
     <message>
         <source>An unknown error occurred. Please try again later.</source>
@@ -1380,8 +1380,8 @@
         <translation>Прямое подключение</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Скачать</translation>
+        <source>Downloaded</source>
+        <translation>Скачивание</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1480,7 +1480,7 @@
         <translation>На %1 стр. назад</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
+        <source>The verification code is invalid. Please check the code and try again.</source>
         <translation>Неверный код подтверждения. Проверьте код и повторите попытку.</translation>
     </message>
     <message>
@@ -1496,16 +1496,16 @@
         <translation>Показывать наложения значков на файлах, исключенных фильтром файлов</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Добавить еще одну задачу синхронизации</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>Файлы для синхронизации</translation>
     </message>
     <message>
         <source>File</source>
         <translation>Файл</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Поделиться ссылкой</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,7 +1568,7 @@
         <translation>Н&amp;ет</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
         <translation>Нажмите кнопку «Восстановить», чтобы восстановить отсутствующие или поврежденные файлы, ярлыки и записи реестра. Чтобы изменить выбор, нажмите кнопку «Назад».</translation>
     </message>
     <message>
@@ -1580,7 +1580,7 @@
         <translation>Больше не показывать это сообщение</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Исправление ошибок последней установки путем восстановления отсутствующих или поврежденных файлов, ярлыков и записей реестра.</translation>
     </message>
     <message>
@@ -1633,7 +1633,7 @@
     </message>
     <message>
         <source>Blocked by:</source>
-        <translation>Источник блокировки:</translation>
+        <translation>Блокирует:</translation>
     </message>
     <message>
         <source>This computer is linked to your NAS, and your files are now being synced.</source>
@@ -1688,10 +1688,6 @@
         <translation>Изменить состав установленных компонентов</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Сведения о подключении</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Если приложение больше не нужно, его можно удалить. Синхронизированные файлы останутся на этом компьютере.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>Выбранная папка доступна только для чтения. Выберите папку, в которую разрешена запись.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>Отвязать задачу синхронизации «%1»? Файлы на этом компьютере и на устройстве NAS сохранятся.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>Удалить задачу синхронизации «%1»? Файлы на этом компьютере и на устройстве NAS сохранятся.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,7 +1736,7 @@
         <translation>Quillmere Drive синхронизирует папки на ваших компьютерах с устройством NAS Orvane.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
+        <source>Enter the verification code</source>
         <translation>Введите код подтверждения</translation>
     </message>
     <message>
@@ -1784,8 +1780,8 @@
         <translation>Другой период</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>Достигнуто максимальное количество задач синхронизации: %1. Чтобы добавить новую задачу, отвяжите одну из существующих.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>Достигнуто максимальное количество задач синхронизации: %1. Чтобы добавить новую задачу, удалите одну из существующих.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1793,7 +1789,7 @@
     </message>
     <message>
         <source>Quillmere Drive is being upgraded. Please wait...</source>
-        <translation>Выполняется переход на новую версию Quillmere Drive. Подождите...</translation>
+        <translation>Выполняется переход на новую версию приложения Quillmere Drive. Подождите...</translation>
     </message>
     <message>
         <source>Select the folder on this computer that you want to keep synced with your NAS.</source>
@@ -1816,7 +1812,7 @@
         <translation>Синхронизируйте файлы между этим компьютером и устройством NAS и работайте с ними, где бы вы ни находились.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
         <translation>Ваша учетная запись защищена двухфакторной аутентификацией. Чтобы продолжить, введите код подтверждения.</translation>
     </message>
     <message>
@@ -1829,7 +1825,7 @@
     </message>
     <message>
         <source>File names to exclude</source>
-        <translation>Исключаемые имена файлов</translation>
+        <translation>Имена исключаемых файлов</translation>
     </message>
     <message>
         <source>File path</source>
@@ -1865,7 +1861,7 @@
     </message>
     <message>
         <source>The Setup Wizard will install [ProductName] on your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>Мастер установки установит [ProductName] на ваш компьютер. Нажмите кнопку «Далее», чтобы продолжить, или «Отмена», чтобы выйти.</translation>
+        <translation>[ProductName] будет установлен на ваш компьютер. Нажмите кнопку «Далее», чтобы продолжить, или «Отмена», чтобы выйти.</translation>
     </message>
     <message>
         <source>Sync tasks</source>
@@ -1874,6 +1870,10 @@
     <message>
         <source>The Setup Wizard is ready to begin the installation.</source>
         <translation>Мастер установки готов начать установку.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Syncing %1 file(s)</source>
@@ -1896,8 +1896,8 @@
         <translation>Восстановить установленное приложение</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Обновление...</translation>
+        <source>Upgrading...</source>
+        <translation>Переход на новую версию...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

@@ -36,8 +36,8 @@
         <translation>Avsluta</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Dela länk</translation>
+        <source>Sharing link</source>
+        <translation>Delningslänk</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Det går inte att läsa den lokala synkroniseringsdatabasen. Starta om Quillmere Drive. Om problemet kvarstår länkar du datorn på nytt.</translation>
+        <translation>Det går inte att läsa den lokala synkroniseringsdatabasen. Starta om Quillmere Drive. Om problemet kvarstår kopplar du datorn på nytt.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>Linking...</source>
-        <translation>Länkar...</translation>
+        <translation>Kopplar...</translation>
     </message>
     <message>
         <source>About Quillmere Drive</source>
@@ -156,8 +156,8 @@
         <translation>Inaktiv</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Ta bort</translation>
+        <source>Deleted</source>
+        <translation>Borttagning</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Link again</source>
-        <translation>Länka på nytt</translation>
+        <translation>Koppla på nytt</translation>
     </message>
     <message>
         <source>Select how you want to sync files between this computer and your NAS. You can add more sync tasks later.</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>This computer is now linked to your NAS. Syncing starts as soon as you close the wizard.</source>
-        <translation>Datorn är nu länkad till NAS-enheten. Synkroniseringen startar så snart du stänger guiden.</translation>
+        <translation>Datorn är nu kopplad till NAS-enheten. Synkroniseringen startar så snart du stänger guiden.</translation>
     </message>
     <message>
         <source>Enable sync for this shared folder</source>
@@ -313,10 +313,10 @@
     </message>
     <message>
         <source>This computer is already linked to the same NAS. Edit the existing connection instead.</source>
-        <translation>Datorn är redan länkad till samma NAS-enhet. Redigera den befintliga anslutningen i stället.</translation>
+        <translation>Datorn är redan kopplad till samma NAS-enhet. Redigera den befintliga anslutningen i stället.</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>%1 objekt</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>Mer information</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>Mappar som du avmarkerar här tas bort från datorn. Kopiorna på NAS-enheten behålls. Vill du fortsätta?</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>Status</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Kopiera till</translation>
+        <source>Copy to:</source>
+        <translation>Kopiera till:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>NAS-enheten på den här adressen är inte den som datorn länkades till. Kontrollera adressen eller länka datorn på nytt.</translation>
+        <translation>NAS-enheten på den här adressen är inte den som datorn kopplades till. Kontrollera adressen eller koppla datorn på nytt.</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The folder home\Quillmere on your NAS has already been linked to this PC. We will launch the synced folder when you click Done. Or you can set up a seperate task: %1</source>
-        <translation>Mappen home\Quillmere på NAS-enheten är redan länkad till den här datorn. Den synkroniserade mappen öppnas när du klickar på ”Klart”. Du kan också skapa en separat uppgift: %1</translation>
+        <translation>Mappen home\Quillmere på NAS-enheten är redan kopplad till den här datorn. Den synkroniserade mappen öppnas när du klickar på ”Klart”. Du kan också skapa en separat uppgift: %1</translation>
     </message>
     <message>
         <source>The port number is invalid. Enter a number from 1 to 65535.</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Welcome to Quillmere Drive. This wizard will help you link this computer to your NAS.</source>
-        <translation>Välkommen till Quillmere Drive. Den här guiden hjälper dig att länka datorn till din NAS-enhet.</translation>
+        <translation>Välkommen till Quillmere Drive. Den här guiden hjälper dig att koppla datorn till din NAS-enhet.</translation>
     </message>
     <message>
         <source>Show icon overlays on synced files and folders</source>
@@ -584,12 +584,12 @@
         <translation>Sista sidan</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Tid</translation>
+        <source>Date and time</source>
+        <translation>Datum och tid</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Byt namn</translation>
+        <source>Renamed</source>
+        <translation>Namnbyte</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>Link to a new NAS</source>
-        <translation>Länka till en ny NAS-enhet</translation>
+        <translation>Koppla till en ny NAS-enhet</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>NAS-enheten på den här adressen har ändrats. Länka datorn på nytt.</translation>
+        <translation>NAS-enheten på den här adressen har ändrats. Koppla datorn på nytt.</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -912,12 +912,12 @@
         <translation>Synkronisera med en annan NAS-enhet</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>Skapar en Quillmere-mapp på datorn och håller den synkroniserad med din home-mapp på Orvane NAS. (Rekommenderas för personligt bruk)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>Skapar en Quillmere-mapp på datorn och håller den synkroniserad med din home-mapp på Orvane NAS (rekommenderas för personligt bruk).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Klicka här för att uppdatera</translation>
+        <source>Click here to upgrade</source>
+        <translation>Klicka här för att uppgradera</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,8 +1020,8 @@
         <translation>Gå tillbaka till en tidigare version</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Ladda upp</translation>
+        <source>Uploaded</source>
+        <translation>Uppladdning</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1041,15 +1041,15 @@
     </message>
     <message>
         <source>Link this computer to your NAS in just a few steps.</source>
-        <translation>Länka datorn till din NAS-enhet i några få steg.</translation>
+        <translation>Koppla datorn till din NAS-enhet i några få steg.</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
         <translation>&amp;Slutför</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>Aktivera SSL-kryptering för dataöverföring</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>Kryptera anslutningen med SSL</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>NAS-enhetens SSL-certifikat har ändrats. Bekräfta det nya certifikatet innan du väljer en mapp.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Ta bort länkning</translation>
+        <source>Remove</source>
+        <translation>Ta bort</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>Den delade mappen hittades inte</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>Ta bort koppling</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1141,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Låter dig ange en mapp på datorn som ska hållas synkroniserad med en delad mapp på din Orvane NAS. (Rekommenderas för samarbete).</translation>
+        <translation>Låter dig ange en mapp på datorn som ska hållas synkroniserad med en delad mapp på din Orvane NAS (rekommenderas för samarbete).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1220,10 +1224,6 @@
         <translation>Använd en RapidHail-anslutning</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>Kryptera anslutningen med SSL</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}Installationsguiden för [ProductName] avslutades i förtid</translation>
     </message>
@@ -1269,10 +1269,10 @@
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation>Tar bort länkning...</translation>
+        <translation>Tar bort koppling...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>&amp;Lämna programmen öppna (omstart krävs)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>Nyligen ändrade filer</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>Ta bort länkningen av anslutningen</translation>
+        <source>Unlink from the NAS</source>
+        <translation>Ta bort kopplingen till NAS-enheten</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,8 +1380,8 @@
         <translation>Direktanslutning</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Ladda ned</translation>
+        <source>Downloaded</source>
+        <translation>Nedladdning</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1480,7 +1480,7 @@
         <translation>Föregående %1 sidor</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
+        <source>The verification code is invalid. Please check the code and try again.</source>
         <translation>Verifieringskoden är ogiltig. Kontrollera koden och försök igen.</translation>
     </message>
     <message>
@@ -1496,16 +1496,16 @@
         <translation>Visa ikonöverlägg på filer som undantas av filfiltret</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Lägg till ytterligare en synkroniseringsuppgift</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>Filer att synkronisera</translation>
     </message>
     <message>
         <source>File</source>
         <translation>Fil</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Dela länk</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>N&amp;ej</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Klicka på ”Reparera” för att åtgärda saknade eller skadade filer, genvägar och registerposter. Klicka på ”Tillbaka” för att granska ditt val.</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>Klicka på ”Reparera” för att återställa saknade eller skadade filer, genvägar och registerposter. Klicka på ”Tillbaka” för att granska ditt val.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,8 +1580,8 @@
         <translation>Visa inte det här meddelandet igen</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>Reparerar fel i den senaste installationen genom att åtgärda saknade eller skadade filer, genvägar och registerposter.</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>Reparerar fel i den senaste installationen genom att återställa saknade eller skadade filer, genvägar och registerposter.</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
@@ -1637,7 +1637,7 @@
     </message>
     <message>
         <source>This computer is linked to your NAS, and your files are now being synced.</source>
-        <translation>Datorn är länkad till NAS-enheten och dina filer synkroniseras nu.</translation>
+        <translation>Datorn är kopplad till NAS-enheten och dina filer synkroniseras nu.</translation>
     </message>
     <message>
         <source>The RapidHail ID is invalid or does not exist.</source>
@@ -1688,10 +1688,6 @@
         <translation>Ändra vilka funktioner som är installerade</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Anslutningsuppgifter</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Om du inte längre behöver programmet kan du ta bort det nu. Dina synkroniserade filer behålls på datorn.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>Den valda mappen är skrivskyddad. Välj en mapp som du har skrivbehörighet till.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>Vill du ta bort länkningen av synkroniseringsuppgiften ”%1”? Filerna på datorn och på NAS-enheten behålls.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>Vill du ta bort synkroniseringsuppgiften ”%1”? Filerna på datorn och på NAS-enheten behålls.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,7 +1736,7 @@
         <translation>Quillmere Drive håller mapparna på dina datorer synkroniserade med din Orvane NAS.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
+        <source>Enter the verification code</source>
         <translation>Ange verifieringskoden</translation>
     </message>
     <message>
@@ -1761,7 +1757,7 @@
     </message>
     <message>
         <source>Folder already linked</source>
-        <translation>Mappen är redan länkad</translation>
+        <translation>Mappen är redan kopplad</translation>
     </message>
     <message>
         <source>The maximum length of this field is %1 characters.</source>
@@ -1773,7 +1769,7 @@
     </message>
     <message>
         <source>Are you sure you want to unlink this computer from &quot;%1&quot;? Syncing will stop, but your files will be kept.</source>
-        <translation>Vill du ta bort länkningen mellan datorn och ”%1”? Synkroniseringen stoppas, men dina filer behålls.</translation>
+        <translation>Vill du ta bort kopplingen mellan datorn och ”%1”? Synkroniseringen stoppas, men dina filer behålls.</translation>
     </message>
     <message>
         <source>Advanced setup</source>
@@ -1784,8 +1780,8 @@
         <translation>Anpassat intervall</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>Du har nått gränsen på %1 synkroniseringsuppgifter. Ta bort länkningen av en synkroniseringsuppgift innan du lägger till en ny.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>Du har nått gränsen på %1 synkroniseringsuppgifter. Ta bort en synkroniseringsuppgift innan du lägger till en ny.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,7 +1812,7 @@
         <translation>Håll filerna synkroniserade mellan datorn och NAS-enheten och kom åt dem var du än är.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
         <translation>Ditt konto skyddas av tvåfaktorsautentisering. Ange verifieringskoden för att fortsätta.</translation>
     </message>
     <message>
@@ -1876,6 +1872,10 @@
         <translation>Installationsguiden är redo att påbörja installationen.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Ta bort</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>Synkroniserar %1 fil(er)</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>Reparera den aktuella installationen</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Uppdaterar...</translation>
+        <source>Upgrading...</source>
+        <translation>Uppgraderar...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>

@@ -36,8 +36,8 @@
         <translation>Çıkış</translation>
     </message>
     <message>
-        <source>Share link</source>
-        <translation>Bağlantıyı paylaş</translation>
+        <source>Sharing link</source>
+        <translation>Paylaşım bağlantısı</translation>
     </message>
     <message>
         <source>Sync error</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Yerel eşitleme veritabanı okunamıyor. Quillmere Drive uygulamasını yeniden başlatın. Sorun devam ederse bu bilgisayarı yeniden bağlayın.</translation>
+        <translation>Yerel eşitleme veritabanı okunamıyor. Quillmere Drive uygulamasını yeniden başlatın. Sorun devam ederse bu bilgisayarı yeniden ilişkilendirin.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>Linking...</source>
-        <translation>Bağlanıyor...</translation>
+        <translation>İlişkilendiriliyor...</translation>
     </message>
     <message>
         <source>About Quillmere Drive</source>
@@ -156,8 +156,8 @@
         <translation>Etkin değil</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Sil</translation>
+        <source>Deleted</source>
+        <translation>Silindi</translation>
     </message>
     <message>
         <source>The selected folder is a mount point and cannot be synced. Please choose another folder.</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Link again</source>
-        <translation>Yeniden bağla</translation>
+        <translation>Yeniden ilişkilendir</translation>
     </message>
     <message>
         <source>Select how you want to sync files between this computer and your NAS. You can add more sync tasks later.</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>This computer is now linked to your NAS. Syncing starts as soon as you close the wizard.</source>
-        <translation>Bu bilgisayar artık NAS cihazınıza bağlı. Sihirbazı kapattığınızda eşitleme başlar.</translation>
+        <translation>Bu bilgisayar artık NAS cihazınızla ilişkilendirildi. Sihirbazı kapattığınızda eşitleme başlar.</translation>
     </message>
     <message>
         <source>Enable sync for this shared folder</source>
@@ -313,10 +313,10 @@
     </message>
     <message>
         <source>This computer is already linked to the same NAS. Edit the existing connection instead.</source>
-        <translation>Bu bilgisayar zaten aynı NAS cihazına bağlı. Bunun yerine mevcut bağlantıyı düzenleyin.</translation>
+        <translation>Bu bilgisayar zaten aynı NAS cihazıyla ilişkili. Bunun yerine mevcut bağlantıyı düzenleyin.</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>%1 item(s)</source>
         <translation>%1 öğe</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@
         <translation>Daha fazla ayrıntı</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
+        <source>Folders that you deselect here will be removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <translation>Burada işaretini kaldırdığınız klasörler bu bilgisayardan kaldırılacak. NAS cihazındaki kopyalar korunacak. Devam etmek istiyor musunuz?</translation>
     </message>
     <message>
@@ -372,8 +372,8 @@
         <translation>Durum</translation>
     </message>
     <message>
-        <source>Copy to</source>
-        <translation>Şuraya kopyala</translation>
+        <source>Copy to:</source>
+        <translation>Şuraya kopyala:</translation>
     </message>
     <message>
         <source>No previous versions of this file are available.</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>Bu adresteki NAS, bu bilgisayarın bağlandığı NAS değil. Adresi kontrol edin veya bilgisayarı yeniden bağlayın.</translation>
+        <translation>Bu adresteki NAS, bu bilgisayarın ilişkilendirildiği NAS değil. Adresi kontrol edin veya bilgisayarı yeniden ilişkilendirin.</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The folder home\Quillmere on your NAS has already been linked to this PC. We will launch the synced folder when you click Done. Or you can set up a seperate task: %1</source>
-        <translation>NAS cihazınızdaki home\Quillmere klasörü zaten bu bilgisayara bağlı. &quot;Bitti&quot; düğmesine tıkladığınızda eşitlenen klasör açılacak. Dilerseniz ayrı bir görev de oluşturabilirsiniz: %1</translation>
+        <translation>NAS cihazınızdaki home\Quillmere klasörü zaten bu bilgisayarla ilişkili. &quot;Bitti&quot; düğmesine tıkladığınızda eşitlenen klasör açılacak. Dilerseniz ayrı bir görev de oluşturabilirsiniz: %1</translation>
     </message>
     <message>
         <source>The port number is invalid. Enter a number from 1 to 65535.</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Welcome to Quillmere Drive. This wizard will help you link this computer to your NAS.</source>
-        <translation>Quillmere Drive uygulamasına hoş geldiniz. Bu sihirbaz, bu bilgisayarı NAS cihazınıza bağlamanıza yardımcı olur.</translation>
+        <translation>Quillmere Drive uygulamasına hoş geldiniz. Bu sihirbaz, bu bilgisayarı NAS cihazınızla ilişkilendirmenize yardımcı olur.</translation>
     </message>
     <message>
         <source>Show icon overlays on synced files and folders</source>
@@ -584,12 +584,12 @@
         <translation>Son sayfa</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Zaman</translation>
+        <source>Date and time</source>
+        <translation>Tarih ve saat</translation>
     </message>
     <message>
-        <source>Rename</source>
-        <translation>Yeniden adlandır</translation>
+        <source>Renamed</source>
+        <translation>Yeniden adlandırıldı</translation>
     </message>
     <message>
         <source>View sync status</source>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>Link to a new NAS</source>
-        <translation>Yeni bir NAS cihazına bağla</translation>
+        <translation>Yeni bir NAS cihazıyla ilişkilendir</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>Bu adresteki NAS değişti. Lütfen bu bilgisayarı yeniden bağlayın.</translation>
+        <translation>Bu adresteki NAS değişti. Lütfen bu bilgisayarı yeniden ilişkilendirin.</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -912,12 +912,12 @@
         <translation>Başka bir NAS cihazıyla eşitle</translation>
     </message>
     <message>
-        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on the Orvane NAS. (Recommended for personal use)</source>
-        <translation>Bilgisayarınızda bir Quillmere klasörü oluşturur ve bu klasörü Orvane NAS cihazındaki home klasörünüzle eşitlenmiş durumda tutar. (Kişisel kullanım için önerilir)</translation>
+        <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
+        <translation>Bilgisayarınızda bir Quillmere klasörü oluşturur ve bu klasörü Orvane NAS cihazındaki home klasörünüzle eşitlenmiş durumda tutar (kişisel kullanım için önerilir).</translation>
     </message>
     <message>
-        <source>Click here to update</source>
-        <translation>Güncellemek için buraya tıklayın</translation>
+        <source>Click here to upgrade</source>
+        <translation>Yükseltmek için buraya tıklayın</translation>
     </message>
     <message>
         <source>April</source>
@@ -1020,8 +1020,8 @@
         <translation>Önceki bir sürüme dönün</translation>
     </message>
     <message>
-        <source>Upload</source>
-        <translation>Karşıya yükle</translation>
+        <source>Uploaded</source>
+        <translation>Karşıya yüklendi</translation>
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
@@ -1041,15 +1041,15 @@
     </message>
     <message>
         <source>Link this computer to your NAS in just a few steps.</source>
-        <translation>Bu bilgisayarı birkaç adımda NAS cihazınıza bağlayın.</translation>
+        <translation>Bu bilgisayarı birkaç adımda NAS cihazınızla ilişkilendirin.</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
         <translation>&amp;Son</translation>
     </message>
     <message>
-        <source>Enable SSL encryption for data transfer</source>
-        <translation>Veri aktarımı için SSL şifrelemesini etkinleştir</translation>
+        <source>Encrypt the connection with SSL</source>
+        <translation>Bağlantıyı SSL ile şifrele</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -1072,8 +1072,8 @@
         <translation>NAS cihazının SSL sertifikası değişti. Klasör seçmeden önce yeni sertifikayı onaylayın.</translation>
     </message>
     <message>
-        <source>Unlink</source>
-        <translation>Bağlantıyı kaldır</translation>
+        <source>Remove</source>
+        <translation>Kaldır</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1082,6 +1082,10 @@
     <message>
         <source>Shared folder not found</source>
         <translation>Paylaşılan klasör bulunamadı</translation>
+    </message>
+    <message>
+        <source>Unlink</source>
+        <translation>İlişkilendirmeyi kaldır</translation>
     </message>
     <message>
         <source>Local folder</source>
@@ -1220,10 +1224,6 @@
         <translation>RapidHail bağlantısı kullan</translation>
     </message>
     <message>
-        <source>Encrypt the connection with SSL</source>
-        <translation>Bağlantıyı SSL ile şifrele</translation>
-    </message>
-    <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard ended early</source>
         <translation>{\VerdanaBold13}[ProductName] Kurulum Sihirbazı erken sona erdi</translation>
     </message>
@@ -1269,10 +1269,10 @@
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation>Bağlantı kaldırılıyor...</translation>
+        <translation>İlişkilendirme kaldırılıyor...</translation>
     </message>
     <message>
-        <source>&amp;Leave applications open (a restart will be required)</source>
+        <source>&amp;Leave the applications open (a restart will be required)</source>
         <translation>Uygulamaları açık &amp;bırak (yeniden başlatma gerekecek)</translation>
     </message>
     <message>
@@ -1308,8 +1308,8 @@
         <translation>Son değiştirilen dosyalar</translation>
     </message>
     <message>
-        <source>Unlink connection</source>
-        <translation>NAS bağlantısını kaldır</translation>
+        <source>Unlink from the NAS</source>
+        <translation>NAS ilişkilendirmesini kaldır</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed. Please try again later.</source>
@@ -1380,8 +1380,8 @@
         <translation>Doğrudan bağlantı</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>İndir</translation>
+        <source>Downloaded</source>
+        <translation>İndirildi</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -1480,8 +1480,8 @@
         <translation>Önceki %1 sayfa</translation>
     </message>
     <message>
-        <source>The OTP is invalid. Please check the code and try again.</source>
-        <translation>OTP kodu geçersiz. Lütfen kodu kontrol edip yeniden deneyin.</translation>
+        <source>The verification code is invalid. Please check the code and try again.</source>
+        <translation>Doğrulama kodu geçersiz. Lütfen kodu kontrol edip yeniden deneyin.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1496,16 +1496,16 @@
         <translation>Dosya filtresinin dışarıda bıraktığı dosyalarda simge katmanlarını göster</translation>
     </message>
     <message>
-        <source>Add another sync task</source>
-        <translation>Başka bir eşitleme görevi ekle</translation>
-    </message>
-    <message>
         <source>Files to sync</source>
         <translation>Eşitlenecek dosyalar</translation>
     </message>
     <message>
         <source>File</source>
         <translation>Dosya</translation>
+    </message>
+    <message>
+        <source>Share link</source>
+        <translation>Bağlantıyı paylaş</translation>
     </message>
     <message>
         <source>Detecting connection mode...</source>
@@ -1568,8 +1568,8 @@
         <translation>&amp;Hayır</translation>
     </message>
     <message>
-        <source>Click Repair to fix missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Eksik veya hasarlı dosyaları, kısayolları ve kayıt defteri girdilerini düzeltmek için &quot;Onar&quot; düğmesine tıklayın. Seçiminizi gözden geçirmek için &quot;Geri&quot; düğmesine tıklayın.</translation>
+        <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
+        <translation>Eksik veya hasarlı dosyaları, kısayolları ve kayıt defteri girdilerini geri yüklemek için &quot;Onar&quot; düğmesine tıklayın. Seçiminizi gözden geçirmek için &quot;Geri&quot; düğmesine tıklayın.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1580,8 +1580,8 @@
         <translation>Bu iletiyi bir daha gösterme</translation>
     </message>
     <message>
-        <source>Repairs errors in the most recent installation by fixing missing or damaged files, shortcuts, and registry entries.</source>
-        <translation>Eksik veya hasarlı dosyaları, kısayolları ve kayıt defteri girdilerini düzelterek son kurulumdaki hataları onarır.</translation>
+        <source>Repairs errors in the most recent installation by restoring missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>Eksik veya hasarlı dosyaları, kısayolları ve kayıt defteri girdilerini geri yükleyerek son kurulumdaki hataları onarır.</translation>
     </message>
     <message>
         <source>Number of times the link can be opened</source>
@@ -1637,7 +1637,7 @@
     </message>
     <message>
         <source>This computer is linked to your NAS, and your files are now being synced.</source>
-        <translation>Bu bilgisayar NAS cihazınıza bağlandı ve dosyalarınız şimdi eşitleniyor.</translation>
+        <translation>Bu bilgisayar NAS cihazınızla ilişkilendirildi ve dosyalarınız şimdi eşitleniyor.</translation>
     </message>
     <message>
         <source>The RapidHail ID is invalid or does not exist.</source>
@@ -1688,10 +1688,6 @@
         <translation>Yüklü özellikleri değiştir</translation>
     </message>
     <message>
-        <source>Connection details</source>
-        <translation>Bağlantı ayrıntıları</translation>
-    </message>
-    <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
         <translation>Programa artık ihtiyacınız yoksa şimdi kaldırabilirsiniz. Eşitlenen dosyalarınız bu bilgisayarda korunur.</translation>
     </message>
@@ -1724,8 +1720,8 @@
         <translation>Seçilen klasör salt okunur. Lütfen yazabileceğiniz bir klasör seçin.</translation>
     </message>
     <message>
-        <source>Are you sure you want to unlink the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
-        <translation>&quot;%1&quot; eşitleme görevinin bağlantısını kaldırmak istediğinizden emin misiniz? Bu bilgisayardaki ve NAS cihazındaki dosyalar korunur.</translation>
+        <source>Are you sure you want to remove the sync task &quot;%1&quot;? The files on this computer and on the NAS will be kept.</source>
+        <translation>&quot;%1&quot; eşitleme görevini kaldırmak istediğinizden emin misiniz? Bu bilgisayardaki ve NAS cihazındaki dosyalar korunur.</translation>
     </message>
     <message>
         <source>Limit how often this link can be opened</source>
@@ -1740,8 +1736,8 @@
         <translation>Quillmere Drive, bilgisayarlarınızdaki klasörleri Orvane NAS cihazınızla eşitlenmiş durumda tutar.</translation>
     </message>
     <message>
-        <source>Enter the OTP</source>
-        <translation>OTP kodunu girin</translation>
+        <source>Enter the verification code</source>
+        <translation>Doğrulama kodunu girin</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1761,7 +1757,7 @@
     </message>
     <message>
         <source>Folder already linked</source>
-        <translation>Klasör zaten bağlı</translation>
+        <translation>Klasör zaten ilişkili</translation>
     </message>
     <message>
         <source>The maximum length of this field is %1 characters.</source>
@@ -1773,7 +1769,7 @@
     </message>
     <message>
         <source>Are you sure you want to unlink this computer from &quot;%1&quot;? Syncing will stop, but your files will be kept.</source>
-        <translation>Bu bilgisayarın &quot;%1&quot; ile bağlantısını kaldırmak istediğinizden emin misiniz? Eşitleme duracak ancak dosyalarınız korunacak.</translation>
+        <translation>Bu bilgisayarın &quot;%1&quot; ile ilişkilendirmesini kaldırmak istediğinizden emin misiniz? Eşitleme duracak ancak dosyalarınız korunacak.</translation>
     </message>
     <message>
         <source>Advanced setup</source>
@@ -1784,8 +1780,8 @@
         <translation>Özel aralık</translation>
     </message>
     <message>
-        <source>You have reached the maximum of %1 sync tasks. Unlink a sync task before you add another one.</source>
-        <translation>Eşitleme görevi üst sınırına (%1) ulaştınız. Yeni bir eşitleme görevi eklemeden önce mevcut bir görevin bağlantısını kaldırın.</translation>
+        <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
+        <translation>Eşitleme görevi üst sınırına (%1) ulaştınız. Yeni bir eşitleme görevi eklemeden önce mevcut görevlerden birini kaldırın.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1816,8 +1812,8 @@
         <translation>Dosyalarınızı bu bilgisayar ile NAS cihazınız arasında eşitlenmiş durumda tutun ve nerede olursanız olun onlara ulaşın.</translation>
     </message>
     <message>
-        <source>Your account is protected by two-factor verification. Please enter the OTP to continue.</source>
-        <translation>Hesabınız iki faktörlü doğrulamayla korunuyor. Devam etmek için lütfen OTP kodunu girin.</translation>
+        <source>Your account is protected by two-factor verification. Please enter the verification code to continue.</source>
+        <translation>Hesabınız iki faktörlü doğrulamayla korunuyor. Devam etmek için lütfen doğrulama kodunu girin.</translation>
     </message>
     <message>
         <source>Edit file filter</source>
@@ -1876,6 +1872,10 @@
         <translation>Kurulum Sihirbazı kurulumu başlatmaya hazır.</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
         <source>Syncing %1 file(s)</source>
         <translation>%1 dosya eşitleniyor</translation>
     </message>
@@ -1896,8 +1896,8 @@
         <translation>Geçerli kurulumu onar</translation>
     </message>
     <message>
-        <source>Updating...</source>
-        <translation>Güncelleniyor...</translation>
+        <source>Upgrading...</source>
+        <translation>Yükseltiliyor...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>
