@@ -2,15 +2,18 @@
 """Checks the translation files against the English ones: check_texts.py DIRECTORY_OF_TS_FILES
 
 Prints a line for each fault and ends with 1 if there are any. In texts/ lie fixed-texts.tsv, the two texts
-that each language has to the letter, and allowed-english.tsv, the texts that may read like the English.
+that each language has to the letter, and allowed-english.tsv, the texts that may read like the English. The
+words of TERMS come from docs/glossary.tsv.
 """
+import csv
 import re
 import sys
 import unicodedata
 import xml.etree.ElementTree as ET
 from pathlib import Path
 
-HERE = Path(__file__).parent
+HERE = Path(__file__).resolve().parent
+GLOSSARY = HERE.parent / "docs" / "glossary.tsv"
 CODES = "enu cht chs jpn deu krn fra ita esn ptb rus dan nor sve nld plk hun ptg trk csy".split()
 CJK = {"chs", "cht", "jpn", "krn"}
 PREPARING, READY = "Quillmere Drive is initializing...", "Quillmere Drive is ready."
@@ -18,6 +21,11 @@ FONT_MARKS = ["[DlgTitleFont]", "{\\VerdanaBold13}", "{\\DlgFont8}"]
 MARKS = ["%1", "[ProductName]", "\\n", "\\t", "home\\Quillmere", *FONT_MARKS]
 # A character that the one script's national set lacks and the other's has.
 OWN_SET = {"chs": "gb2312", "cht": "big5"}
+# Terms of the glossary whose word stands in every text about them, the same in all cases, and names not to be used.
+TERMS = ["verification code"]
+BANNED = ["OTP"]
+# A remark in brackets has its stop inside ("One. (Two.)") or behind it ("One (two)."), not between two.
+STOP_ON_BOTH_SIDES = re.compile(r"[.。]\s*[(（][^()（）]*[)）]\u200b?[.。]")
 NATIVE = {
     "jpn": r"[\u3040-\u30ff\u4e00-\u9fff]", "krn": r"[\uac00-\ud7a3]", "rus": r"[\u0400-\u04ff]",
     "chs": r"[\u4e00-\u9fff]", "cht": r"[\u4e00-\u9fff]",
@@ -27,6 +35,13 @@ NATIVE = {
 def rows(name):
     lines = (HERE / "texts" / name).read_text(encoding="utf-8").splitlines()
     return [line.split("\t") for line in lines]
+
+
+def terms():
+    """Of each of TERMS the word of each language."""
+    with GLOSSARY.open(encoding="utf-8", newline="") as file:
+        glossary = {row["en"]: row for row in csv.DictReader(file, delimiter="\t", quoting=csv.QUOTE_NONE)}
+    return {term: glossary[term] for term in TERMS}
 
 
 def load(path):
@@ -78,6 +93,14 @@ def script_fault(code, text):
     return None
 
 
+def term_faults(code, source, text, words):
+    faults = [f"says {name}" for name in BANNED if name in text]
+    for term, word in words.items():
+        if term in source.lower() and word[code].lower() not in text.lower():
+            faults.append(f"{word[code]!r} is the word for {term!r}")
+    return faults
+
+
 def text_faults(code, source, text, fixed, allowed):
     if not text:
         return ["empty"]
@@ -89,6 +112,8 @@ def text_faults(code, source, text, fixed, allowed):
         faults.append("accelerator")
     if source not in (PREPARING, READY) and ending(source) != ending(text):
         faults.append(f"ends in {ending(text)!r}, not {ending(source)!r}")
+    if STOP_ON_BOTH_SIDES.search(text):
+        faults.append("a full stop on both sides of the bracket")
     if len(text) > (1.1 if code in CJK else 1.7) * len(source) + 20:
         faults.append(f"too long for a dialog ({len(source)} to {len(text)})")
     if unicodedata.normalize("NFC", text) != text or re.search("\ufffd|Ã[\u0080-\u00bf]|â€|Ð[\u0080-\u00bf]", text):
@@ -104,6 +129,7 @@ def text_faults(code, source, text, fixed, allowed):
 
 
 def main(directory):
+    words = terms()
     fixed = {code: (preparing, ready) for code, preparing, ready in rows("fixed-texts.tsv")}
     allowed = {text: codes.split() for text, codes, reason in rows("allowed-english.tsv")[1:] if reason}
     files = {path.stem: path for path in sorted(Path(directory).glob("*.ts"))}
@@ -111,13 +137,14 @@ def main(directory):
     english = load(files["enu"])[0]
     if len(english) != 476 or any(source != text for source, text in english.items()):
         faults.append("enu: not 476 texts that repeat their source")
+    faults += [f"enu: says {name}: {text!r}" for text in english for name in BANNED if name in text]
     for code, path in files.items():
         texts, form = load(path)
         faults += [f"{code}: {fault}" for fault in form]
         if set(texts) != set(english):
             faults.append(f"{code}: other sources: {sorted(set(texts) ^ set(english))}")
         for source, text in texts.items() if code != "enu" else ():
-            found = text_faults(code, source, text, fixed, allowed)
+            found = text_faults(code, source, text, fixed, allowed) + term_faults(code, source, text, words)
             faults += [f"{code}: {fault}: {source!r} -> {text!r}" for fault in found]
     print("\n".join(faults) or f"{len(files)} languages, {len(english)} texts each: no fault")
     return 1 if faults else 0
