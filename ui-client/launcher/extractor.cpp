@@ -4,10 +4,13 @@
 #include <archive.h>
 #include <archive_entry.h>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <memory>
 
 #include "log.h"
+#include "platform/files/flush.h"
 #include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/launcher/str-table.h"
 
@@ -72,6 +75,18 @@ archive_entry* NextEntry(archive* reader) {
     return archive_read_next_header(reader, &entry) == ARCHIVE_OK ? entry : nullptr;
 }
 
+// The result of archive_read_next_header. A package that was replaced or rewritten since it was
+// counted fails here: nothing else would tell that entries are missing.
+int NextCounted(archive* reader, int number, int total, archive_entry** entry) {
+    const int header = archive_read_next_header(reader, entry);
+    const bool beyond = number > total;
+    if ((header == ARCHIVE_OK && beyond) || (header == ARCHIVE_EOF && !beyond)) {
+        archive_set_error(reader, EBUSY, "Changed since its %d entries were counted", total);
+        return ARCHIVE_FATAL;
+    }
+    return header;
+}
+
 }  // namespace
 
 bool Extractor::HasPaths() const {
@@ -117,7 +132,7 @@ int Extractor::ExtractEntries(int total, archive* reader, archive* writer) {
     const ustring prefix = m_dest + "/";
     for (int number = 1;; ++number) {
         archive_entry* entry = nullptr;
-        const int header = archive_read_next_header(reader, &entry);
+        const int header = NextCounted(reader, number, total, &entry);
         if (header == ARCHIVE_EOF) {
             return 0;
         }
@@ -138,12 +153,24 @@ int Extractor::ExtractEntries(int total, archive* reader, archive* writer) {
             return -1;
         }
         Notify_Adapter::GetInstance()->UpdateProgress(total, number);
-        if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
+        // The last entry has the version, which makes a copy count as current. So it comes when all
+        // else is on the disk, and nobody hears of success before it is there itself.
+        const bool flush = number >= total - 1;
+        if (archive_write_finish_entry(writer) != ARCHIVE_OK || (flush && !Flush(writer))) {
             Logger::LogMsg(LOG_LINE(ERROR, "archive_write_finish_entry failed: '%s'\n"),
                            ErrorText(writer));
             return -1;
         }
     }
+}
+
+bool Extractor::Flush(archive* writer) const {
+    if (FlushTree(m_dest.c_str()) == 0) {
+        return true;
+    }
+    const int error = errno;
+    archive_set_error(writer, error, "Flush failed: %s", std::strerror(error));
+    return false;
 }
 
 int Extractor::Count() {

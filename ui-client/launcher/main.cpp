@@ -56,6 +56,8 @@ int main(int argc, char** argv) {
     setlocale(LC_ALL, "");
     // Whoever reads this program's standard output may go; the work goes on.
     std::signal(SIGPIPE, SIG_IGN);
+    // A write beyond the limit of a file's size fails with EFBIG, and the old copy is put back.
+    std::signal(SIGXFSZ, SIG_IGN);
     qInitResources_texts();
     UseUtf8FileNames();
     GuiEnvironment environment(SetLibraryPath(program));

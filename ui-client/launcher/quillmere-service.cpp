@@ -1,13 +1,17 @@
 // Install layout, version records, and the transaction that replaces the per-user copy.
 #include "ui-client/launcher/quillmere-service.h"
 
+#include <sys/stat.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QSettings>
+#include <cerrno>
 #include <cstdio>
 
 #include "file/file-op.h"
 #include "log.h"
+#include "platform/files/flush.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/qt-text.h"
 
@@ -16,6 +20,7 @@
 namespace {
 
 constexpr int kBackups = 10;
+constexpr char kInfo[] = "/Contents/Resources/INFO";
 const ustring kLogComponent("service_debug");
 
 ustring GetAppBackupDir(const ustring& app, int index) {
@@ -92,7 +97,7 @@ ustring Service::GetUserQuillmereDataInstallPath() {
 }
 
 void Service::LoadSourceVersion() {
-    const ustring path = GetUserQuillmereAppInstallPath() + "/Contents/Resources" + "/" + "INFO";
+    const ustring path = GetUserQuillmereAppInstallPath() + kInfo;
     if (!IsFileExist(path, false)) {
         Logger::LogMsg(LOG_LINE(INFO, "source does not exist\n"));
         return;
@@ -114,6 +119,13 @@ void Service::LoadTargetVersion() {
 
 namespace {
 
+// Whether nothing stands at `path`, for sure. A look that fails otherwise (EIO, EACCES, EMFILE)
+// does not say so, and what cannot be seen may be the only copy.
+bool IsAbsent(const ustring& path) {
+    struct stat status;
+    return lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
 // Moves `app` to the first backup name that takes it. Result: 0, with the name and its index; -1.
 int BackUp(const ustring& app, ustring& backup, int& index) {
     for (index = 0; index < kBackups; ++index) {
@@ -130,13 +142,23 @@ int BackUp(const ustring& app, ustring& backup, int& index) {
     return -1;
 }
 
+// Takes the new copy away and puts the old one back. The version goes first: should this end half
+// way, what is left of the new copy must not count as current.
+void RollBack(const ustring& app, const ustring& backup) {
+    FSRemove(app + kInfo, false);
+    FSRemove(app, false);
+    FSRename(backup, app, false);
+    FlushTree(FSParentPath(app).c_str());
+}
+
 }  // namespace
 
 int Service::PrepareUserEnv() {
     const ustring app = user_app_path;
     ustring backup;
     int index = 0;
-    if (IsFileExist(app, false) && BackUp(app, backup, index) != 0) {
+    const bool may_be_there = IsFileExist(app, false) || !IsAbsent(app);
+    if (may_be_there && BackUp(app, backup, index) != 0) {
         return -1;
     }
     if (ExtractPackage() == 0) {
@@ -152,8 +174,7 @@ int Service::PrepareUserEnv() {
         return -1;
     }
     Logger::LogMsg(LOG_LINE(ERROR, "Failed to extract package, rollback to old installation\n"));
-    FSRemove(app, false);
-    FSRename(backup, app, false);
+    RollBack(app, backup);
     return -1;
 }
 

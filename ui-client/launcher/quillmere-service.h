@@ -44,7 +44,8 @@ class Service {
     virtual void PreUpgrade() = 0;
     // Whether the target is newer than the source, or the client's executable is missing.
     virtual bool IsNeedUpgrade() = 0;
-    // Unpacks the package into APP. Result: 0; any other on failure, and what was written stays.
+    // Unpacks the package into APP. Result: 0 with all of it on the disk; any other on failure, and
+    // what was written stays.
     virtual int ExtractPackage();
     // Fill a version record from an INFO file: the INI syntax of QSettings, group "Version". What
     // is missing leaves its field as it was.
@@ -52,7 +53,9 @@ class Service {
     virtual void LoadTargetVersion();
     // Replaces the per-user copy: moves the old one aside, unpacks, and removes the old one, or
     // moves it back when unpacking fails. Result: 0 when the new copy is in place; -1 when it is
-    // not, with the old copy under its name again if there was one and it could be moved.
+    // not, with the old copy under its name again if there was one and it could be moved. Nothing
+    // is touched when no look can tell whether there is an old copy. At every moment, also after a
+    // power cut, APP or a backup is whole, and a torn APP has no version.
     virtual int PrepareUserEnv();
 
     // Copies a file or a whole tree, contents only; links are copied as what they lead to. A
