@@ -92,6 +92,7 @@ class Logger {
     static bool Passes(Level level, const ustring& component);
     static int Write(const char* format, va_list args) __attribute__((format(printf, 1, 0)));
     static void Count(int written);
+    static int Reopen();
     static int OpenFile(const ustring& path);
     static void CloseFile();
     static void Replace(std::FILE* stream);

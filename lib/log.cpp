@@ -8,6 +8,7 @@
 #include <ctime>
 
 #include "config.h"
+#include "mutex-guard.h"
 
 namespace {
 
@@ -16,27 +17,21 @@ constexpr int kRotationLimit = 1048576;
 constexpr int kSyslogPriority = 3;
 constexpr char kTimeFormat[] = "%b %d %H:%M:%S ";
 
-class Guard {
-  public:
-    Guard() { Logger::Lock(); }
-    ~Guard() { Logger::Unlock(); }
-    Guard(const Guard&) = delete;
-    Guard& operator=(const Guard&) = delete;
-};
+// Serves until the logger has its own lock.
+pthread_mutex_t g_first_use = PTHREAD_MUTEX_INITIALIZER;
 
-// The members that are read before the lock is taken: relaxed, since the reader only needs either
-// value.
+// The members that are read before the lock is taken. Who sees a block sees it filled.
 template <class T>
 T Peek(const T& member) {
     T value;
-    __atomic_load(&member, &value, __ATOMIC_RELAXED);
+    __atomic_load(&member, &value, __ATOMIC_ACQUIRE);
     return value;
 }
 
 template <class T, class U>
 void Poke(T& member, U value) {
     T converted = value;
-    __atomic_store(&member, &converted, __ATOMIC_RELAXED);
+    __atomic_store(&member, &converted, __ATOMIC_RELEASE);
 }
 
 template <class T>
@@ -141,21 +136,23 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
     if (HasNowhereToWrite()) {
         return;
     }
-    const Guard guard;
+    const MutexGuard guard(*log_lock);
     FollowRotation();
     if (Passes(level, component)) {
         Count(Write(format, args));
     }
 }
 
-// A process that never called Initialize comes to its lock and blocks here.
+// A process that never called Initialize comes to its lock and blocks here, with its first message,
+// in whatever threads that is.
 void Logger::EnsureReady() {
-    if (Peek(log_lock) == nullptr) {
-        InitializeLock();
+    if (Peek(log_lock) != nullptr && Peek(log_size) != nullptr &&
+        Peek(log_rotated_count_shared) != nullptr) {
+        return;
     }
-    if (Peek(log_size) == nullptr || Peek(log_rotated_count_shared) == nullptr) {
-        InitializeSharedData();
-    }
+    const MutexGuard guard(g_first_use);
+    InitializeLock();
+    InitializeSharedData();
 }
 
 bool Logger::HasNowhereToWrite() {
@@ -205,16 +202,19 @@ void Logger::Count(int written) {
 }
 
 int Logger::Rotate() {
-    if (!RotatedName(log_path, rotate_cnt).fits()) {
+    const RotatedName last(log_path, rotate_cnt - 1);
+    if (!last.fits()) {
         return -1;
     }
     for (int i = rotate_cnt - 2; i >= 0; --i) {
         std::rename(RotatedName(log_path, i).c_str(), RotatedName(log_path, i + 1).c_str());
     }
-    std::remove(RotatedName(log_path, rotate_cnt - 1).c_str());
-    if (std::rename(log_path.c_str(), RotatedName(log_path, 0).c_str()) != 0 ||
-        OpenFile(log_path) != 0) {
+    std::remove(last.c_str());
+    if (std::rename(log_path.c_str(), RotatedName(log_path, 0).c_str()) != 0) {
         CloseFile();
+        return -1;
+    }
+    if (Reopen() != 0) {
         return -1;
     }
     ++*log_rotated_count_shared;
@@ -223,9 +223,24 @@ int Logger::Rotate() {
 }
 
 void Logger::ReloadLogFile() {
-    if (log_type == TYPE_FILE && OpenFile(log_path) != 0) {
-        CloseFile();
+    if (log_type == TYPE_FILE) {
+        Reopen();
     }
+}
+
+// Result: 0; -1 when the file cannot be opened, and the log ends.
+int Logger::Reopen() {
+    if (OpenFile(log_path) == 0) {
+        return 0;
+    }
+    // Perhaps no descriptor is left but the former stream's. Standard error stands in for it: see
+    // OpenFile.
+    Replace(stderr);
+    if (OpenFile(log_path) == 0) {
+        return 0;
+    }
+    CloseFile();
+    return -1;
 }
 
 // On success the stream is the log's, in place of the former, and its count starts at 0; on failure

@@ -8,22 +8,13 @@
 #include <ctime>
 #include <utility>
 
+#include "mutex-guard.h"
+
 namespace {
 
 constexpr int kStateSize = 256;
 constexpr int kDraw = 6;        // bytes for a name: 48 bits
 constexpr int kNameLength = 8;  // characters of 6 bits each
-
-class Guard {
-  public:
-    explicit Guard(pthread_mutex_t& lock) : lock_(lock) { pthread_mutex_lock(&lock_); }
-    ~Guard() { pthread_mutex_unlock(&lock_); }
-    Guard(const Guard&) = delete;
-    Guard& operator=(const Guard&) = delete;
-
-  private:
-    pthread_mutex_t& lock_;
-};
 
 // Three bytes as four groups of six bits, most significant bit first.
 void Encode(const unsigned char* bytes, char* out) {
@@ -52,7 +43,7 @@ TmpNameGen* TmpNameGen::getInstance() {
 ustring TmpNameGen::getTmpName() {
     char name[kNameLength + 1] = {};
     {
-        const Guard guard(m_lock);
+        const MutexGuard guard(m_lock);
         rc4_randomize(m_state, m_random, kDraw);
         Encode(m_random, name);
         Encode(m_random + 3, name + 4);

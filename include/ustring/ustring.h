@@ -10,19 +10,17 @@
 // - Positions and lengths count bytes of the UTF-8 text. Only the count `n` of the `unsigned short`
 //   forms counts 16-bit units.
 // - The text is not validated: bytes that are not UTF-8 may stand in it, and only a conversion
-// finds out.
+//   finds out.
 // - Copies, searches, comparisons and conversions take the text as ending at its first NUL.
 // - Pointers and references given out last until the next operation that changes the object.
 //   `c_str_utf16` counts as such a change for pointers into the UTF-16 view.
 // - Null pointers, and pointers into the middle of the object's own buffers, must not be passed.
 // - Throws std::bad_alloc when memory runs out, with the object as it was just before it asked for
-// more
-//   (an assignment has cleared the text by then), and std::out_of_range for a position beyond the
-//   end. A failed conversion throws nothing: it writes a warning to std::cerr and leaves an empty
-//   text.
+//   more (an assignment has cleared the text by then), and std::out_of_range for a position beyond
+//   the end. A failed conversion throws nothing: it writes a warning to std::cerr and leaves an
+//   empty text.
 // - A ustring belongs to one thread at a time, also for `c_str_utf16` and `normalize`, which write
-// the
-//   cache through const.
+//   the cache through const.
 class ustring {
   public:
     // "No position" as a result, "to the end" as a count.
@@ -75,12 +73,12 @@ class ustring {
     ustring& assign(char c, unsigned long n);
     ustring& assign(unsigned short c, unsigned long n);
 
-    ustring& operator=(ustring const& s);
-    ustring& operator=(std::string const& s);
-    ustring& operator=(char const* s);
-    ustring& operator=(unsigned short const* s);
-    ustring& operator=(char c);
-    ustring& operator=(unsigned short c);
+    ustring& operator=(ustring const& s) { return assign(s, 0, npos); }
+    ustring& operator=(std::string const& s) { return assign(s, 0, npos); }
+    ustring& operator=(char const* s) { return assign(s); }
+    ustring& operator=(unsigned short const* s) { return assign(s); }
+    ustring& operator=(char c) { return assign(c, 1); }
+    ustring& operator=(unsigned short c) { return assign(c, 1); }
 
     // Append. The UTF-8 forms drop the UTF-16 view; the UTF-16 forms leave both views current, or
     // the whole object empty when the result is not UTF-16 (a lone surrogate, say). The std::string
@@ -104,35 +102,71 @@ class ustring {
     // Searches. Result: the position in bytes from the start of the text, or npos. A forward search
     // from pos >= length() is npos, also for an empty needle; a backward search starts at the last
     // byte at the latest, also for an empty needle. A set is a set of bytes, not of characters.
-    unsigned long find(std::string const& needle, unsigned long pos) const;
+    unsigned long find(std::string const& needle, unsigned long pos) const {
+        return find(needle.c_str(), pos);
+    }
     unsigned long find(char const* needle, unsigned long pos) const;
-    unsigned long find(ustring const& needle, unsigned long pos) const;
-    unsigned long find(char needle, unsigned long pos) const;
+    unsigned long find(ustring const& needle, unsigned long pos) const {
+        return find(needle.data, pos);
+    }
+    unsigned long find(char needle, unsigned long pos) const {
+        return find(one_byte{needle}.text, pos);
+    }
 
-    unsigned long rfind(std::string const& needle, unsigned long pos) const;
+    unsigned long rfind(std::string const& needle, unsigned long pos) const {
+        return rfind(needle.c_str(), pos);
+    }
     unsigned long rfind(char const* needle, unsigned long pos) const;
-    unsigned long rfind(ustring const& needle, unsigned long pos) const;
-    unsigned long rfind(char needle, unsigned long pos) const;
+    unsigned long rfind(ustring const& needle, unsigned long pos) const {
+        return rfind(needle.data, pos);
+    }
+    unsigned long rfind(char needle, unsigned long pos) const {
+        return rfind(one_byte{needle}.text, pos);
+    }
 
-    unsigned long find_first_of(std::string const& set, unsigned long pos) const;
+    unsigned long find_first_of(std::string const& set, unsigned long pos) const {
+        return find_first_of(set.c_str(), pos);
+    }
     unsigned long find_first_of(char const* set, unsigned long pos) const;
-    unsigned long find_first_of(ustring const& set, unsigned long pos) const;
-    unsigned long find_first_of(char set, unsigned long pos) const;
+    unsigned long find_first_of(ustring const& set, unsigned long pos) const {
+        return find_first_of(set.data, pos);
+    }
+    unsigned long find_first_of(char set, unsigned long pos) const {
+        return find_first_of(one_byte{set}.text, pos);
+    }
 
-    unsigned long find_first_not_of(std::string const& set, unsigned long pos) const;
+    unsigned long find_first_not_of(std::string const& set, unsigned long pos) const {
+        return find_first_not_of(set.c_str(), pos);
+    }
     unsigned long find_first_not_of(char const* set, unsigned long pos) const;
-    unsigned long find_first_not_of(ustring const& set, unsigned long pos) const;
-    unsigned long find_first_not_of(char set, unsigned long pos) const;
+    unsigned long find_first_not_of(ustring const& set, unsigned long pos) const {
+        return find_first_not_of(set.data, pos);
+    }
+    unsigned long find_first_not_of(char set, unsigned long pos) const {
+        return find_first_not_of(one_byte{set}.text, pos);
+    }
 
-    unsigned long find_last_of(std::string const& set, unsigned long pos) const;
+    unsigned long find_last_of(std::string const& set, unsigned long pos) const {
+        return find_last_of(set.c_str(), pos);
+    }
     unsigned long find_last_of(char const* set, unsigned long pos) const;
-    unsigned long find_last_of(ustring const& set, unsigned long pos) const;
-    unsigned long find_last_of(char set, unsigned long pos) const;
+    unsigned long find_last_of(ustring const& set, unsigned long pos) const {
+        return find_last_of(set.data, pos);
+    }
+    unsigned long find_last_of(char set, unsigned long pos) const {
+        return find_last_of(one_byte{set}.text, pos);
+    }
 
-    unsigned long find_last_not_of(std::string const& set, unsigned long pos) const;
+    unsigned long find_last_not_of(std::string const& set, unsigned long pos) const {
+        return find_last_not_of(set.c_str(), pos);
+    }
     unsigned long find_last_not_of(char const* set, unsigned long pos) const;
-    unsigned long find_last_not_of(ustring const& set, unsigned long pos) const;
-    unsigned long find_last_not_of(char set, unsigned long pos) const;
+    unsigned long find_last_not_of(ustring const& set, unsigned long pos) const {
+        return find_last_not_of(set.data, pos);
+    }
+    unsigned long find_last_not_of(char set, unsigned long pos) const {
+        return find_last_not_of(one_byte{set}.text, pos);
+    }
 
     // Remove leading, trailing or both kinds of bytes that are in the set, in place; the capacity
     // stays. An empty set changes nothing.
@@ -164,6 +198,11 @@ class ustring {
   private:
     friend struct ustring_test_peer;
 
+    // One byte as a needle or a set; NUL makes it empty.
+    struct one_byte {
+        char text[2];  // the braces leave the second byte 0
+    };
+
     void init();
     void realloc_data(unsigned long need);
     void realloc_wdata(unsigned long need) const;
@@ -192,12 +231,24 @@ ustring operator+(ustring const& left, unsigned short right);
 
 // Byte order of the UTF-8 texts up to their first NUL: the composed and the decomposed form of one
 // text differ. <= and >= are true for equal texts.
-bool operator==(ustring const& left, ustring const& right);
-bool operator!=(ustring const& left, ustring const& right);
-bool operator<(ustring const& left, ustring const& right);
-bool operator>(ustring const& left, ustring const& right);
-bool operator<=(ustring const& left, ustring const& right);
-bool operator>=(ustring const& left, ustring const& right);
+inline bool operator==(ustring const& left, ustring const& right) {
+    return left.compare(right) == 0;
+}
+inline bool operator!=(ustring const& left, ustring const& right) {
+    return left.compare(right) != 0;
+}
+inline bool operator<(ustring const& left, ustring const& right) {
+    return left.compare(right) < 0;
+}
+inline bool operator>(ustring const& left, ustring const& right) {
+    return left.compare(right) > 0;
+}
+inline bool operator<=(ustring const& left, ustring const& right) {
+    return left.compare(right) <= 0;
+}
+inline bool operator>=(ustring const& left, ustring const& right) {
+    return left.compare(right) >= 0;
+}
 
 // Writes the bytes of the UTF-8 text up to its first NUL.
 std::ostream& operator<<(std::ostream& out, ustring const& s);

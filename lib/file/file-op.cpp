@@ -32,10 +32,10 @@ constexpr unsigned short kModeByUmask = 0xFFFF;
 constexpr int kWithTimeAndSize = 1;
 const ustring kLogComponent("file_op_debug");
 
-struct DirCloser {
-    void operator()(DIR* dir) const { closedir(dir); }
+struct StreamCloser {
+    void operator()(DIR* stream) const { closedir(stream); }
 };
-using Directory = std::unique_ptr<DIR, DirCloser>;
+using DirStream = std::unique_ptr<DIR, StreamCloser>;
 
 // A umask for a while; it is the whole process's.
 class UmaskOverride {
@@ -78,7 +78,8 @@ constexpr TypeCode kTypesByEntry[] = {{DT_REG, FS_TYPE_FILE},   {DT_DIR, FS_TYPE
 ustring Composed(ustring const& path) {
     char const* const text = path.c_str();
     char const* const end = text + path.length();
-    if (std::all_of(text, end, [](char c) { return c > 0; })) {
+    const auto is_ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+    if (std::all_of(text, end, is_ascii)) {
         return path;
     }
     return path.normalize(ustring::NFC);
@@ -176,9 +177,11 @@ int GetFileInfo(ustring const& path, _FILE_INFO_tag& info) {
         if (errno != ENOENT) {
             return -1;
         }
-        info = _FILE_INFO_tag();
-        info.path = path;
-        info.name = FSBaseName(path);
+        // `path` may be the record's own.
+        _FILE_INFO_tag missing;
+        missing.path = path;
+        missing.name = FSBaseName(path);
+        info = missing;
         return 0;
     }
     info.exists = true;
@@ -188,18 +191,18 @@ int GetFileInfo(ustring const& path, _FILE_INFO_tag& info) {
     info.gid = status.st_gid;
     info.mode = static_cast<std::uint16_t>(status.st_mode);
     info.dev = static_cast<std::int32_t>(status.st_dev);
-    info.name = FSBaseName(path);
     info.path = path;
+    info.name = FSBaseName(info.path);
     const int type = FindCode(kTypesByMode, status.st_mode & S_IFMT, -1);
     if (type < 0) {
         return -1;
     }
     info.type = type;
 
-    const ustring composed = Composed(path);
+    const ustring composed = Composed(info.path);
     Logger::LogMsg(LOG_LINE(DEBUG, "Input file path = [%s].\n"), composed.c_str());
     UInt8 buffer[kPathBuffer] = {};
-    const OSStatus outcome = FindRealPath(composed, path, buffer);
+    const OSStatus outcome = FindRealPath(composed, info.path, buffer);
     if (outcome != 0) {
         Logger::LogMsg(LOG_LINE(ERROR, "FSPathMakeRef: %d\n"), static_cast<int>(outcome));
         return -1;
@@ -211,17 +214,23 @@ int GetFileInfo(ustring const& path, _FILE_INFO_tag& info) {
     return 0;
 }
 
+namespace {
+
+bool Find(ustring const& path, _FILE_INFO_tag& info) {
+    return GetFileInfo(path, info) == 0 && info.exists;
+}
+
+}  // namespace
+
 bool IsFileExist(ustring const& path, bool exact) {
     const ustring composed = Composed(path);
     if (composed.empty()) {
         return false;
     }
+    // See MakeReference: the name may be stored in another normal form, the given one, and the
+    // composed one may be too long for the file system.
     _FILE_INFO_tag info;
-    if (GetFileInfo(composed, info) < 0) {
-        return false;
-    }
-    // See MakeReference: the name may be stored in another normal form, the given one.
-    if (!info.exists && (composed == path || GetFileInfo(path, info) < 0 || !info.exists)) {
+    if (!Find(composed, info) && (composed == path || !Find(path, info))) {
         return false;
     }
     return !exact || info.path == composed;
@@ -346,25 +355,19 @@ int MoveLink(ustring const& from, ustring const& to) {
 }
 
 int MoveFifo(ustring const& from, ustring const& to, mode_t mode) {
-    // The umask is not for what only moves.
+    // mkfifo applies the umask, but a FIFO that moves keeps its mode.
     return Recreate(from, to, [&] {
         return mkfifo(to.c_str(), 0600) != 0 ? -1 : chmod(to.c_str(), mode & 07777);
     });
 }
 
-// What rename does and a copy would not: a file that is there under both names, by way of a second
-// mount, stays; and a link or a FIFO at `to` is replaced, where a copy would write through the one
-// and hang on the other.
+// As rename does, a link or a FIFO at `to` is replaced: a copy would write through the one and hang
+// on the other.
 int MoveFile(ustring const& from, ustring const& to) {
-    struct stat source;
     struct stat target;
-    if (lstat(from.c_str(), &source) == 0 && lstat(to.c_str(), &target) == 0) {
-        if (source.st_dev == target.st_dev && source.st_ino == target.st_ino) {
-            return 0;
-        }
-        if (!S_ISREG(target.st_mode) && !S_ISDIR(target.st_mode) && unlink(to.c_str()) != 0) {
-            return -3;
-        }
+    if (lstat(to.c_str(), &target) == 0 && !S_ISREG(target.st_mode) && !S_ISDIR(target.st_mode) &&
+        unlink(to.c_str()) != 0) {
+        return -3;
     }
     return FSCopy(from, to, true) < 0 ? -3 : 0;
 }
@@ -373,7 +376,7 @@ int MoveTree(ustring const& from, ustring const& to, bool exact) {
     if (FSMKDir(to, true) != 0) {
         return -3;
     }
-    Directory dir(opendir(from.c_str()));
+    DirStream dir(opendir(from.c_str()));
     if (!dir) {
         return -3;
     }
@@ -384,8 +387,20 @@ int MoveTree(ustring const& from, ustring const& to, bool exact) {
     return moved && std::remove(from.c_str()) == 0 ? 0 : -3;
 }
 
+bool IsSameObject(ustring const& a, ustring const& b) {
+    struct stat first;
+    struct stat second;
+    return lstat(a.c_str(), &first) == 0 && lstat(b.c_str(), &second) == 0 &&
+           first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
 int MoveAcrossVolumes(ustring const& from, ustring const& to, _FILE_INFO_tag const& info,
                       bool exact) {
+    // One object by way of two mounts is one volume to nobody but rename(2), which leaves two names
+    // of one object as they are.
+    if (IsSameObject(from, to)) {
+        return 0;
+    }
     switch (info.type) {
         case FS_TYPE_FILE:
             return MoveFile(from, to);
@@ -547,7 +562,7 @@ int FSRemove(ustring const& path, bool) {
         return 0;
     }
     if (info.type == FS_TYPE_DIR) {
-        Directory dir(opendir(path.c_str()));
+        DirStream dir(opendir(path.c_str()));
         if (!dir) {
             return 0;
         }

@@ -135,12 +135,6 @@ unsigned long SearchBackward(ustring const& text, unsigned long pos, Test test) 
     return ustring::npos;
 }
 
-// One byte as a needle or a set; NUL makes it empty.
-struct OneByte {
-    explicit OneByte(char c) : text{c, 0} {}
-    char text[2];
-};
-
 int Difference(char a, char b) {
     return static_cast<unsigned char>(a) - static_cast<unsigned char>(b);
 }
@@ -333,30 +327,6 @@ ustring& ustring::assign(unsigned short c, unsigned long n) {
     return append(c, n);
 }
 
-ustring& ustring::operator=(ustring const& s) {
-    return assign(s, 0, npos);
-}
-
-ustring& ustring::operator=(std::string const& s) {
-    return assign(s, 0, npos);
-}
-
-ustring& ustring::operator=(char const* s) {
-    return assign(s);
-}
-
-ustring& ustring::operator=(unsigned short const* s) {
-    return assign(s);
-}
-
-ustring& ustring::operator=(char c) {
-    return assign(c, 1);
-}
-
-ustring& ustring::operator=(unsigned short c) {
-    return assign(c, 1);
-}
-
 ustring& ustring::append(char const* s) {
     return append(s, npos);
 }
@@ -481,79 +451,6 @@ unsigned long ustring::find_last_not_of(char const* set, unsigned long pos) cons
     return SearchBackward(*this, pos, StartsWithNoneOf{set});
 }
 
-// The other ways to name a needle or a set.
-unsigned long ustring::find(std::string const& s, unsigned long pos) const {
-    return find(s.c_str(), pos);
-}
-
-unsigned long ustring::find(ustring const& s, unsigned long pos) const {
-    return find(s.data, pos);
-}
-
-unsigned long ustring::find(char c, unsigned long pos) const {
-    return find(OneByte(c).text, pos);
-}
-
-unsigned long ustring::rfind(std::string const& s, unsigned long pos) const {
-    return rfind(s.c_str(), pos);
-}
-
-unsigned long ustring::rfind(ustring const& s, unsigned long pos) const {
-    return rfind(s.data, pos);
-}
-
-unsigned long ustring::rfind(char c, unsigned long pos) const {
-    return rfind(OneByte(c).text, pos);
-}
-
-unsigned long ustring::find_first_of(std::string const& s, unsigned long pos) const {
-    return find_first_of(s.c_str(), pos);
-}
-
-unsigned long ustring::find_first_of(ustring const& s, unsigned long pos) const {
-    return find_first_of(s.data, pos);
-}
-
-unsigned long ustring::find_first_of(char c, unsigned long pos) const {
-    return find_first_of(OneByte(c).text, pos);
-}
-
-unsigned long ustring::find_first_not_of(std::string const& s, unsigned long pos) const {
-    return find_first_not_of(s.c_str(), pos);
-}
-
-unsigned long ustring::find_first_not_of(ustring const& s, unsigned long pos) const {
-    return find_first_not_of(s.data, pos);
-}
-
-unsigned long ustring::find_first_not_of(char c, unsigned long pos) const {
-    return find_first_not_of(OneByte(c).text, pos);
-}
-
-unsigned long ustring::find_last_of(std::string const& s, unsigned long pos) const {
-    return find_last_of(s.c_str(), pos);
-}
-
-unsigned long ustring::find_last_of(ustring const& s, unsigned long pos) const {
-    return find_last_of(s.data, pos);
-}
-
-unsigned long ustring::find_last_of(char c, unsigned long pos) const {
-    return find_last_of(OneByte(c).text, pos);
-}
-
-unsigned long ustring::find_last_not_of(std::string const& s, unsigned long pos) const {
-    return find_last_not_of(s.c_str(), pos);
-}
-
-unsigned long ustring::find_last_not_of(ustring const& s, unsigned long pos) const {
-    return find_last_not_of(s.data, pos);
-}
-
-unsigned long ustring::find_last_not_of(char c, unsigned long pos) const {
-    return find_last_not_of(OneByte(c).text, pos);
-}
-
 void ustring::ltrim(char const* set) {
     const StartsWithOneOf in_set{set};
     char const* rest = data;
@@ -592,7 +489,7 @@ void ustring::replace(char from, char to) {
     for (char* byte = data; *byte != 0; ++byte) {
         if (*byte == from) {
             *byte = to;
-            changed = true;
+            changed = from != to;
         }
     }
     if (changed) {
@@ -682,30 +579,6 @@ ustring operator+(ustring const& left, unsigned short const* right) {
 
 ustring operator+(ustring const& left, unsigned short right) {
     return Concatenate(left, right);
-}
-
-bool operator==(ustring const& left, ustring const& right) {
-    return left.compare(right) == 0;
-}
-
-bool operator!=(ustring const& left, ustring const& right) {
-    return left.compare(right) != 0;
-}
-
-bool operator<(ustring const& left, ustring const& right) {
-    return left.compare(right) < 0;
-}
-
-bool operator>(ustring const& left, ustring const& right) {
-    return left.compare(right) > 0;
-}
-
-bool operator<=(ustring const& left, ustring const& right) {
-    return left.compare(right) <= 0;
-}
-
-bool operator>=(ustring const& left, ustring const& right) {
-    return left.compare(right) >= 0;
 }
 
 std::ostream& operator<<(std::ostream& out, ustring const& s) {

@@ -14,7 +14,7 @@
 // another. Main thread.
 class QtSingleApplication : public QApplication {
   public:
-    // `gui` is there for the library's signature; only true is of use here.
+    // The library takes false for a program without windows; here `gui` must be true.
     QtSingleApplication(int& argc, char** argv, bool gui);
     ~QtSingleApplication() override;
 

@@ -24,14 +24,29 @@ OSStatus Store(const std::string& path, FSRef* ref) {
     return 0;
 }
 
-// proc(5): the kernel marks the path of an object that was removed since it was opened.
-bool IsGone(int fd, const char* path, std::size_t length) {
-    const std::size_t mark = sizeof kDeleted - 1;
-    if (length < mark || std::memcmp(path + length - mark, kDeleted, mark) != 0) {
-        return false;
-    }
+bool IsThere(const char* path) {
     struct stat status;
-    return fstat(fd, &status) == 0 && status.st_nlink == 0;
+    return lstat(path, &status) == 0;
+}
+
+bool IsObject(const char* path, int fd) {
+    struct stat named;
+    struct stat opened;
+    return lstat(path, &named) == 0 && fstat(fd, &opened) == 0 && named.st_dev == opened.st_dev &&
+           named.st_ino == opened.st_ino;
+}
+
+// proc(5): the kernel marks the path of an object that has lost this name since it was opened. The
+// mark comes off. Result: 0, also where the mark is part of the name, and where another object has
+// taken the name, as when a file is replaced by a rename; ENOENT if nothing is there.
+OSStatus TakeMark(int fd, char* path) {
+    const std::size_t length = std::strlen(path);
+    const std::size_t mark = sizeof kDeleted - 1;
+    if (length < mark || std::strcmp(path + length - mark, kDeleted) != 0 || IsObject(path, fd)) {
+        return 0;
+    }
+    path[length - mark] = 0;
+    return IsThere(path) ? 0 : ENOENT;
 }
 
 // Result: 0; ENOTSUP where /proc does not tell; another errno.
@@ -46,7 +61,7 @@ OSStatus AskProc(int fd, FSRef* ref) {
         return ENAMETOOLONG;
     }
     ref->path[length] = 0;
-    return IsGone(fd, ref->path, static_cast<std::size_t>(length)) ? ENOENT : 0;
+    return TakeMark(fd, ref->path);
 }
 
 OSStatus Resolve(const std::string& path, std::string& resolved) {
@@ -58,11 +73,9 @@ OSStatus Resolve(const std::string& path, std::string& resolved) {
     return 0;
 }
 
-// The parent resolved, and the last name as it stands.
-OSStatus ResolveParent(std::string path, FSRef* ref) {
-    while (path.size() > 1 && path.back() == '/') {
-        path.pop_back();
-    }
+// The parent resolved, and the last name as it stands. A link with a slash behind it is followed,
+// as open(2) does.
+OSStatus ResolveParent(const std::string& path, FSRef* ref) {
     const std::size_t slash = path.rfind('/');
     const std::string name = path.substr(slash == std::string::npos ? 0 : slash + 1);
     std::string resolved;

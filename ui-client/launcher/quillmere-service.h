@@ -33,7 +33,7 @@ class Service {
 
     // Ends a running client.
     virtual void StopService() = 0;
-    // Keeps a value that no operation gives a meaning.
+    // Stores `timeout`. No operation reads it.
     virtual void SetTimeout(int timeout);
     // Stops the client if it is installed, and runs PrepareUserEnv. Result: 0 when the new copy is
     // in place; -1 when it is not.

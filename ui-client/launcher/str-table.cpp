@@ -1,4 +1,4 @@
-// The string table: its rows, and the road from an id to a text.
+// The string table: its rows, and how an id becomes a text in the user's language.
 #include "ui-client/launcher/str-table.h"
 
 #include <QCoreApplication>

@@ -1,0 +1,16 @@
+// The owner of a locked mutex.
+#pragma once
+
+#include <pthread.h>
+
+// Holds the mutex for as long as it lives.
+class MutexGuard {
+  public:
+    explicit MutexGuard(pthread_mutex_t& mutex) : mutex_(mutex) { pthread_mutex_lock(&mutex_); }
+    ~MutexGuard() { pthread_mutex_unlock(&mutex_); }
+    MutexGuard(const MutexGuard&) = delete;
+    MutexGuard& operator=(const MutexGuard&) = delete;
+
+  private:
+    pthread_mutex_t& mutex_;
+};
