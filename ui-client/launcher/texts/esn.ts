@@ -1545,7 +1545,7 @@
     </message>
     <message>
         <source>Advanced setup wizard</source>
-        <translation>Asistente de configuración avanzada</translation>
+        <translation>Asistente del modo avanzado</translation>
     </message>
     <message>
         <source>The selected folder is already part of a sync task on this computer.</source>

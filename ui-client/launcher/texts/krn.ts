@@ -1545,7 +1545,7 @@
     </message>
     <message>
         <source>Advanced setup wizard</source>
-        <translation>고급 설정 마법사</translation>
+        <translation>고급 설정 모드 마법사</translation>
     </message>
     <message>
         <source>The selected folder is already part of a sync task on this computer.</source>

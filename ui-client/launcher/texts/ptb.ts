@@ -1545,7 +1545,7 @@
     </message>
     <message>
         <source>Advanced setup wizard</source>
-        <translation>Assistente de Configuração Avançada</translation>
+        <translation>Assistente do Modo Avançado</translation>
     </message>
     <message>
         <source>The selected folder is already part of a sync task on this computer.</source>
