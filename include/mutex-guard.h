@@ -6,11 +6,11 @@
 // Holds the mutex for as long as it lives.
 class MutexGuard {
   public:
-    explicit MutexGuard(pthread_mutex_t& mutex) : mutex_(mutex) { pthread_mutex_lock(&mutex_); }
-    ~MutexGuard() { pthread_mutex_unlock(&mutex_); }
+    explicit MutexGuard(pthread_mutex_t* mutex) : mutex_(mutex) { pthread_mutex_lock(mutex_); }
+    ~MutexGuard() { pthread_mutex_unlock(mutex_); }
     MutexGuard(const MutexGuard&) = delete;
     MutexGuard& operator=(const MutexGuard&) = delete;
 
   private:
-    pthread_mutex_t& mutex_;
+    pthread_mutex_t* mutex_;
 };

@@ -136,7 +136,7 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
     if (HasNowhereToWrite()) {
         return;
     }
-    const MutexGuard guard(*log_lock);
+    const MutexGuard guard(log_lock);
     FollowRotation();
     if (Passes(level, component)) {
         Count(Write(format, args));
@@ -150,7 +150,7 @@ void Logger::EnsureReady() {
         Peek(log_rotated_count_shared) != nullptr) {
         return;
     }
-    const MutexGuard guard(g_first_use);
+    const MutexGuard guard(&g_first_use);
     InitializeLock();
     InitializeSharedData();
 }

@@ -43,7 +43,7 @@ TmpNameGen* TmpNameGen::getInstance() {
 ustring TmpNameGen::getTmpName() {
     char name[kNameLength + 1] = {};
     {
-        const MutexGuard guard(m_lock);
+        const MutexGuard guard(&m_lock);
         rc4_randomize(m_state, m_random, kDraw);
         Encode(m_random, name);
         Encode(m_random + 3, name + 4);

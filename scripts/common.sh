@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # What the scripts share; to be sourced. Runs from the repository's root.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -6,7 +7,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 packages=(
   g++ cmake ninja-build pkg-config git ca-certificates
   qtbase5-dev qttools5-dev qttools5-dev-tools libarchive-dev libicu-dev libxcb1-dev libfontconfig-dev
-  libgtest-dev zstd python3 dosfstools mount util-linux procps
+  libgtest-dev zstd python3 mount util-linux procps
   xvfb openbox xdotool x11-utils imagemagick fonts-liberation fonts-dejavu-core fonts-noto-cjk
 )
 

@@ -437,7 +437,7 @@ TEST(Launch, LevelFileAndRotation) {
     world.Offer(1);
     EXPECT_TRUE(EndedWell(world.Launch()));
     // Nothing but errors and warnings without a level file; this system has no lsregister.
-    EXPECT_EQ(world.Log().find("["), world.Log().find("[ERROR] mac/mac-service("));
+    EXPECT_EQ(world.Log().find('['), world.Log().find("[ERROR] mac/mac-service("));
     EXPECT_EQ(world.Log().find("[INFO]"), std::string::npos);
 
     WriteFile(world.Bundle() + "/log/launcher.debug", "file_op_debug=7\n");

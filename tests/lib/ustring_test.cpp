@@ -33,7 +33,7 @@ std::string Text(ustring const& s) {
 
 std::u16string Utf16(ustring const& s) {
     unsigned short const* const units = s.c_str_utf16();
-    const std::u16string text(units, units + Peer::units(s));
+    std::u16string text(units, units + Peer::units(s));
     EXPECT_EQ(units[text.size()], 0);
     EXPECT_LT(text.size(), Peer::unit_capacity(s));
     return text;

@@ -74,7 +74,7 @@ struct Entry {
     std::string path;
     std::string content;
     mode_t mode = S_IFREG | 0644;
-    std::string link = "";
+    std::string link{};
 };
 
 void MakeArchive(const std::string& path, const std::vector<Entry>& entries) {
