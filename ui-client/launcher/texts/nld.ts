@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>Linking...</source>
-        <translation>Koppelen...</translation>
+        <translation>Wordt gekoppeld...</translation>
     </message>
     <message>
         <source>About Quillmere Drive</source>
@@ -365,7 +365,7 @@
     </message>
     <message>
         <source>Setup requires administrator rights. Do you want to restart it as an administrator?</source>
-        <translation>Het installatieprogramma vereist beheerdersrechten. Wilt u het opnieuw starten als beheerder?</translation>
+        <translation>Het installatieprogramma vereist beheerdersrechten. Wilt u het opnieuw opstarten als beheerder?</translation>
     </message>
     <message>
         <source>Status</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
-        <translation>Hiermee maakt u een Quillmere-map op uw computer die gesynchroniseerd blijft met uw home-map op de Orvane-NAS (aanbevolen voor persoonlijk gebruik).</translation>
+        <translation>Hiermee maakt u een Quillmere-map op uw computer die gesynchroniseerd blijft met uw home-map op uw Orvane-NAS (aanbevolen voor persoonlijk gebruik).</translation>
     </message>
     <message>
         <source>Click here to upgrade</source>
@@ -1017,7 +1017,7 @@
     </message>
     <message>
         <source>Go back to an earlier version</source>
-        <translation>Teruggaan naar een eerdere versie</translation>
+        <translation>Ga terug naar een eerdere versie</translation>
     </message>
     <message>
         <source>Uploaded</source>
@@ -1109,7 +1109,7 @@
     </message>
     <message>
         <source>Share files with a link</source>
-        <translation>Bestanden delen met een link</translation>
+        <translation>Deel bestanden met een link</translation>
     </message>
     <message>
         <source>File type</source>
@@ -1269,11 +1269,11 @@
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation>Ontkoppelen...</translation>
+        <translation>Wordt ontkoppeld...</translation>
     </message>
     <message>
         <source>&amp;Leave the applications open (a restart will be required)</source>
-        <translation>Toepassingen ge&amp;opend laten (opnieuw opstarten is vereist)</translation>
+        <translation>De toepassingen ge&amp;opend laten (opnieuw opstarten is vereist)</translation>
     </message>
     <message>
         <source>{\VerdanaBold13}The [ProductName] Setup Wizard is complete</source>
@@ -1365,7 +1365,7 @@
     </message>
     <message>
         <source>Search the local network for an Orvane NAS.</source>
-        <translation>In het lokale netwerk zoeken naar een Orvane-NAS.</translation>
+        <translation>Op het lokale netwerk zoeken naar een Orvane-NAS.</translation>
     </message>
     <message>
         <source>Storage full</source>
@@ -1441,7 +1441,7 @@
     </message>
     <message>
         <source>You can let Setup close the applications listed below and try to restart them afterward.</source>
-        <translation>Het installatieprogramma kan de onderstaande toepassingen sluiten en daarna proberen ze opnieuw te starten.</translation>
+        <translation>Het installatieprogramma kan de onderstaande toepassingen sluiten en daarna proberen ze opnieuw op te starten.</translation>
     </message>
     <message>
         <source>The Setup Wizard lets you change the way [ProductName] is installed or remove it from your computer. Click Next to continue or Cancel to exit.</source>
@@ -1517,7 +1517,7 @@
     </message>
     <message>
         <source>Search for NAS devices on the local network</source>
-        <translation>In het lokale netwerk zoeken naar NAS-apparaten</translation>
+        <translation>Op het lokale netwerk zoeken naar NAS-apparaten</translation>
     </message>
     <message>
         <source>The proxy address and port cannot be empty.</source>
@@ -1693,7 +1693,7 @@
     </message>
     <message>
         <source>The selected folder is not empty. Its files will be merged with the files in the shared folder.</source>
-        <translation>De geselecteerde map is niet leeg. De bestanden worden samengevoegd met de bestanden in de gedeelde map.</translation>
+        <translation>De geselecteerde map is niet leeg. De bestanden in deze map worden samengevoegd met de bestanden in de gedeelde map.</translation>
     </message>
     <message>
         <source>The link could not be deleted. Please try again later.</source>
@@ -1801,7 +1801,7 @@
     </message>
     <message>
         <source>Syncing: %1</source>
-        <translation>Synchroniseren: %1</translation>
+        <translation>Wordt gesynchroniseerd: %1</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the NAS. Contact the administrator.</source>
@@ -1877,11 +1877,11 @@
     </message>
     <message>
         <source>Syncing %1 file(s)</source>
-        <translation>%1 bestand(en) synchroniseren</translation>
+        <translation>Bezig met synchroniseren van %1 bestand(en)</translation>
     </message>
     <message>
         <source>&amp;Close the applications and try to restart them</source>
-        <translation>De toepassingen &amp;sluiten en proberen ze opnieuw te starten</translation>
+        <translation>De toepassingen &amp;sluiten en proberen ze opnieuw op te starten</translation>
     </message>
     <message>
         <source>Please wait. The requested changes are being made.</source>
@@ -1897,7 +1897,7 @@
     </message>
     <message>
         <source>Upgrading...</source>
-        <translation>Upgraden...</translation>
+        <translation>Wordt geüpgraded...</translation>
     </message>
     <message>
         <source>Set up a separate sync task</source>
