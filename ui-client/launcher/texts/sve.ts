@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Det går inte att läsa den lokala synkroniseringsdatabasen. Starta om Quillmere Drive. Om problemet kvarstår kopplar du datorn på nytt.</translation>
+        <translation>Det går inte att läsa den lokala synkroniseringsdatabasen. Starta om Quillmere Drive. Om problemet kvarstår kopplar du datorn till NAS-enheten på nytt.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>Linking...</source>
-        <translation>Kopplar...</translation>
+        <translation>Kopplar datorn...</translation>
     </message>
     <message>
         <source>About Quillmere Drive</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>Open containing folder</source>
-        <translation>Öppna mappen med filen</translation>
+        <translation>Öppna mappen som innehåller filen</translation>
     </message>
     <message>
         <source>[ProductName] has no features that can be selected separately.</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>NAS-enheten på den här adressen har ändrats. Koppla datorn på nytt.</translation>
+        <translation>NAS-enheten på den här adressen har ändrats. Koppla datorn till NAS-enheten på nytt.</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
-        <translation>Skapar en Quillmere-mapp på datorn och håller den synkroniserad med din home-mapp på Orvane NAS (rekommenderas för personligt bruk).</translation>
+        <translation>Skapar en Quillmere-mapp på datorn och håller den synkroniserad med din home-mapp på din Orvane NAS (rekommenderas för personligt bruk).</translation>
     </message>
     <message>
         <source>Click here to upgrade</source>
