@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Yerel eşitleme veritabanı okunamıyor. Quillmere Drive uygulamasını yeniden başlatın. Sorun devam ederse bu bilgisayarı yeniden ilişkilendirin.</translation>
+        <translation>Yerel eşitleme veritabanı okunamıyor. Quillmere Drive uygulamasını yeniden başlatın. Sorun devam ederse bu bilgisayarı NAS cihazıyla yeniden ilişkilendirin.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>The proxy server requires authentication</source>
-        <translation>Ara sunucu kimlik doğrulaması gerektiriyor</translation>
+        <translation>Ara sunucu, kimlik doğrulaması gerektiriyor</translation>
     </message>
     <message>
         <source>Choose what happens when the same file has been changed on the computer and on the NAS.</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>This computer is already linked to the same NAS. Edit the existing connection instead.</source>
-        <translation>Bu bilgisayar zaten aynı NAS cihazıyla ilişkili. Bunun yerine mevcut bağlantıyı düzenleyin.</translation>
+        <translation>Bu bilgisayar zaten aynı NAS cihazıyla ilişkilendirilmiş. Bunun yerine mevcut bağlantıyı düzenleyin.</translation>
     </message>
     <message>
         <source>%1 item(s)</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The folder home\Quillmere on your NAS has already been linked to this PC. We will launch the synced folder when you click Done. Or you can set up a seperate task: %1</source>
-        <translation>NAS cihazınızdaki home\Quillmere klasörü zaten bu bilgisayarla ilişkili. &quot;Bitti&quot; düğmesine tıkladığınızda eşitlenen klasör açılacak. Dilerseniz ayrı bir görev de oluşturabilirsiniz: %1</translation>
+        <translation>NAS cihazınızdaki home\Quillmere klasörü zaten bu bilgisayarla ilişkilendirilmiş. &quot;Bitti&quot; düğmesine tıkladığınızda eşitlenen klasör açılacak. Dilerseniz ayrı bir görev de oluşturabilirsiniz: %1</translation>
     </message>
     <message>
         <source>The port number is invalid. Enter a number from 1 to 65535.</source>
@@ -425,11 +425,11 @@
     </message>
     <message>
         <source>You have read-only access to this folder. Changes made on this computer will not be synced to the NAS.</source>
-        <translation>Bu klasöre salt okunur erişiminiz var. Bu bilgisayarda yapılan değişiklikler NAS cihazına eşitlenmez.</translation>
+        <translation>Bu klasöre salt okunur erişiminiz var. Bu bilgisayarda yapılan değişiklikler NAS cihazıyla eşitlenmez.</translation>
     </message>
     <message>
         <source>The version of Quillmere Drive on this computer is too old for the NAS. Version %1 or later is required.</source>
-        <translation>Bu bilgisayardaki Quillmere Drive sürümü NAS cihazı için çok eski. Sürüm %1 veya daha yenisi gerekiyor.</translation>
+        <translation>Bu bilgisayardaki Quillmere Drive sürümü NAS cihazı için çok eski. %1 veya daha yeni bir sürüm gerekiyor.</translation>
     </message>
     <message>
         <source>Files and folders that match the rules of the file filter will not be synced.</source>
@@ -669,7 +669,7 @@
     </message>
     <message>
         <source>Expiration time</source>
-        <translation>Son kullanma saati</translation>
+        <translation>Bitiş saati</translation>
     </message>
     <message>
         <source>Username</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>Quillmere Drive Server on the NAS is too old for this computer. Version %1 or later is required.</source>
-        <translation>NAS cihazındaki Quillmere Drive Server uygulaması bu bilgisayar için çok eski. Sürüm %1 veya daha yenisi gerekiyor.</translation>
+        <translation>NAS cihazındaki Quillmere Drive Server uygulaması bu bilgisayar için çok eski. %1 veya daha yeni bir sürüm gerekiyor.</translation>
     </message>
     <message>
         <source>June</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>Bu adresteki NAS değişti. Lütfen bu bilgisayarı yeniden ilişkilendirin.</translation>
+        <translation>Bu adresteki NAS değişti. Lütfen bu bilgisayarı NAS cihazıyla yeniden ilişkilendirin.</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -897,7 +897,7 @@
     </message>
     <message>
         <source>When the tray icon is double-clicked</source>
-        <translation>Tepsi simgesi çift tıklandığında</translation>
+        <translation>Tepsi simgesine çift tıklandığında</translation>
     </message>
     <message>
         <source>Selective sync by folder</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
-        <translation>Bilgisayarınızda bir Quillmere klasörü oluşturur ve bu klasörü Orvane NAS cihazındaki home klasörünüzle eşitlenmiş durumda tutar (kişisel kullanım için önerilir).</translation>
+        <translation>Bilgisayarınızda bir Quillmere klasörü oluşturur ve bu klasörü Orvane NAS cihazınızdaki home klasörünüzle eşitlenmiş durumda tutar (kişisel kullanım için önerilir).</translation>
     </message>
     <message>
         <source>Click here to upgrade</source>
@@ -1241,7 +1241,7 @@
     </message>
     <message>
         <source>Set an expiration date for this link</source>
-        <translation>Bu bağlantı için bir son kullanma tarihi belirle</translation>
+        <translation>Bu bağlantı için bir bitiş tarihi belirle</translation>
     </message>
     <message>
         <source>Change local folder</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>You can also protect a link with a password or set an expiration date.</source>
-        <translation>Ayrıca bir bağlantıyı parolayla koruyabilir veya bağlantı için bir son kullanma tarihi belirleyebilirsiniz.</translation>
+        <translation>Ayrıca bir bağlantıyı parolayla koruyabilir veya bağlantı için bir bitiş tarihi belirleyebilirsiniz.</translation>
     </message>
     <message>
         <source>All your files, always at hand</source>
@@ -1533,7 +1533,7 @@
     </message>
     <message>
         <source>Expiration date</source>
-        <translation>Son kullanma tarihi</translation>
+        <translation>Bitiş tarihi</translation>
     </message>
     <message>
         <source>September</source>
@@ -1701,7 +1701,7 @@
     </message>
     <message>
         <source>A link cannot be created for this file. Make sure that it has been synced to the NAS.</source>
-        <translation>Bu dosya için paylaşım bağlantısı oluşturulamıyor. Dosyanın NAS cihazına eşitlendiğinden emin olun.</translation>
+        <translation>Bu dosya için paylaşım bağlantısı oluşturulamıyor. Dosyanın NAS cihazıyla eşitlendiğinden emin olun.</translation>
     </message>
     <message>
         <source>Check all file attributes for changes</source>
@@ -1757,7 +1757,7 @@
     </message>
     <message>
         <source>Folder already linked</source>
-        <translation>Klasör zaten ilişkili</translation>
+        <translation>Klasör zaten ilişkilendirilmiş</translation>
     </message>
     <message>
         <source>The maximum length of this field is %1 characters.</source>
@@ -1769,7 +1769,7 @@
     </message>
     <message>
         <source>Are you sure you want to unlink this computer from &quot;%1&quot;? Syncing will stop, but your files will be kept.</source>
-        <translation>Bu bilgisayarın &quot;%1&quot; ile ilişkilendirmesini kaldırmak istediğinizden emin misiniz? Eşitleme duracak ancak dosyalarınız korunacak.</translation>
+        <translation>Bu bilgisayarın &quot;%1&quot; ile olan ilişkilendirmesini kaldırmak istediğinizden emin misiniz? Eşitleme duracak ancak dosyalarınız korunacak.</translation>
     </message>
     <message>
         <source>Advanced setup</source>
