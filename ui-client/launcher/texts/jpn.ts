@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>ローカルの同期データベースを読み取れません。Quillmere Drive を再起動してください。問題が解決しない場合は、このコンピューターをもう一度関連付けてください。</translation>
+        <translation>ローカルの同期データベースを読み取れません。Quillmere Drive を再起動してください。問題が解決しない場合は、このコンピューターをもう一度NASに関連付けてください。</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Link again</source>
-        <translation>再び関連付け</translation>
+        <translation>もう一度関連付ける</translation>
     </message>
     <message>
         <source>Select how you want to sync files between this computer and your NAS. You can add more sync tasks later.</source>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>Link to a new NAS</source>
-        <translation>新しいNASに関連付け</translation>
+        <translation>新しいNASに関連付ける</translation>
     </message>
     <message>
         <source>Last week</source>
