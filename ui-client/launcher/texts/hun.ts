@@ -1545,7 +1545,7 @@
     </message>
     <message>
         <source>Advanced setup wizard</source>
-        <translation>Speciális mód varázsló</translation>
+        <translation>Speciális mód varázslója</translation>
     </message>
     <message>
         <source>The selected folder is already part of a sync task on this computer.</source>
