@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>로컬 동기화 데이터베이스를 읽을 수 없습니다. Quillmere Drive를 다시 시작하십시오. 문제가 계속되면 이 컴퓨터를 다시 연동하십시오.</translation>
+        <translation>로컬 동기화 데이터베이스를 읽을 수 없습니다. Quillmere Drive를 다시 시작하십시오. 문제가 계속되면 이 컴퓨터를 NAS와 다시 연동하십시오.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
