@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Не удается прочитать локальную базу данных синхронизации. Перезапустите приложение Quillmere Drive. Если проблема сохранится, привяжите этот компьютер повторно.</translation>
+        <translation>Не удается прочитать локальную базу данных синхронизации. Перезапустите приложение Quillmere Drive. Если проблема сохранится, привяжите этот компьютер к устройству NAS повторно.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
