@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>This shared folder has been disabled for your account. Contact the administrator of the NAS to regain access.</source>
-        <translation>您的帐户已被禁止使用此共享文件夹。请联系 NAS 管理员以恢复访问权限。</translation>
+        <translation>此共享文件夹已对您的帐户禁用。请联系 NAS 管理员以恢复访问权限。</translation>
     </message>
     <message>
         <source>Merge the folders</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>The icon in the system tray shows the sync status at a glance. Click it to pause syncing, view recent changes, or open the settings.</source>
-        <translation>系统托盘中的图标可让您随时了解同步状态。单击该图标可暂停同步、查看最近的更改或打开设置。</translation>
+        <translation>系统托盘中的图标让同步状态一目了然。单击该图标可暂停同步、查看最近的更改或打开设置。</translation>
     </message>
     <message>
         <source>Paused</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>此地址上的 NAS 不是此计算机所关联的 NAS。请检查地址或重新关联此计算机。</translation>
+        <translation>此地址上的 NAS 不是此计算机之前关联的 NAS。请检查地址或重新关联此计算机。</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -821,7 +821,7 @@
     </message>
     <message>
         <source>Connect anyway</source>
-        <translation>仍然连接</translation>
+        <translation>仍要连接</translation>
     </message>
     <message>
         <source>The files on this computer and the files in the shared folder will be merged. If two files have the same name, the newer one is used.</source>
@@ -865,7 +865,7 @@
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation>向后 %1 页</translation>
+        <translation>向后翻 %1 页</translation>
     </message>
     <message>
         <source>Quillmere Drive is already running. You can find its icon in the system tray.</source>
@@ -933,7 +933,7 @@
     </message>
     <message>
         <source>Files and folders excluded from sync</source>
-        <translation>不同步的文件和文件夹</translation>
+        <translation>不参与同步的文件和文件夹</translation>
     </message>
     <message>
         <source>This version of Quillmere Drive is already installed. Do you want to install it again?</source>
@@ -1477,7 +1477,7 @@
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation>向前 %1 页</translation>
+        <translation>向前翻 %1 页</translation>
     </message>
     <message>
         <source>The verification code is invalid. Please check the code and try again.</source>
@@ -1601,7 +1601,7 @@
     </message>
     <message>
         <source>The SSL certificate could not be verified. It may be self-signed, expired, or issued for another hostname.</source>
-        <translation>无法验证 SSL 证书。该证书可能是自签名证书、已过期，或颁发给其他主机名。</translation>
+        <translation>无法验证 SSL 证书。该证书可能是自签名证书，可能已过期，也可能是颁发给其他主机名的。</translation>
     </message>
     <message>
         <source>Please update Quillmere Drive Server on the NAS to use selective sync.</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Quillmere Drive keeps the folders on your computers in sync with your Orvane NAS.</source>
-        <translation>Quillmere Drive 让您各台计算机上的文件夹与 Orvane NAS 保持同步。</translation>
+        <translation>Quillmere Drive 让您计算机上的文件夹与 Orvane NAS 保持同步。</translation>
     </message>
     <message>
         <source>Enter the verification code</source>
