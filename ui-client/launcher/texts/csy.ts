@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Choose a setup mode</source>
-        <translation>Zvolte režim nastavení</translation>
+        <translation>Zvolte režim konfigurace</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to install [ProductName]</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Místní databázi synchronizace nelze načíst. Restartujte aplikaci Quillmere Drive. Pokud potíže přetrvají, propojte tento počítač znovu se zařízením NAS.</translation>
+        <translation>Místní databázi synchronizace nelze načíst. Restartujte aplikaci Quillmere Drive. Pokud potíže přetrvají, propojte tento počítač se zařízením NAS znovu.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -273,7 +273,7 @@
     </message>
     <message>
         <source>Date range</source>
-        <translation>Rozsah dat</translation>
+        <translation>Období</translation>
     </message>
     <message>
         <source>The download failed. Please try again later.</source>
@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>Setup is complete.</source>
-        <translation>Nastavení je dokončeno.</translation>
+        <translation>Konfigurace je dokončena.</translation>
     </message>
     <message>
         <source>Quillmere Drive on this computer is outdated. Please update it to version %1 or later.</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>Setup is in progress. Please wait...</source>
-        <translation>Probíhá nastavení. Čekejte prosím...</translation>
+        <translation>Probíhá konfigurace. Čekejte prosím...</translation>
     </message>
     <message>
         <source>Just now</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>Na této adrese je jiné zařízení NAS než to, se kterým byl počítač propojen. Zkontrolujte adresu nebo počítač propojte znovu se zařízením NAS.</translation>
+        <translation>Na této adrese je jiné zařízení NAS než to, se kterým byl počítač propojen. Zkontrolujte adresu nebo počítač propojte znovu.</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to review your choice.</source>
-        <translation>Kliknutím na tlačítko „Odebrat“ odeberete aplikaci [ProductName] z počítače. Chcete-li volbu změnit, klikněte na tlačítko „Zpět“.</translation>
+        <translation>Kliknutím na tlačítko „Odebrat“ odeberete aplikaci [ProductName] z počítače. Chcete-li volbu zkontrolovat, klikněte na tlačítko „Zpět“.</translation>
     </message>
     <message>
         <source>Quillmere Drive Server is not running on the NAS. Start it or contact the administrator.</source>
@@ -569,7 +569,7 @@
     </message>
     <message>
         <source>This file cannot be downloaded. It may have been deleted, or you may not have permission to access it.</source>
-        <translation>Tento soubor nelze stáhnout. Mohl být odstraněn nebo k němu nemáte oprávnění.</translation>
+        <translation>Tento soubor nelze stáhnout. Možná byl odstraněn nebo k němu nemáte oprávnění.</translation>
     </message>
     <message>
         <source>The IP address of this computer is not allowed to access the NAS. Contact the administrator.</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>Zařízení NAS na této adrese se změnilo. Propojte tento počítač znovu se zařízením NAS.</translation>
+        <translation>Zařízení NAS na této adrese se změnilo. Propojte s ním tento počítač znovu.</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -841,7 +841,7 @@
     </message>
     <message>
         <source>The username or password is incorrect, or the account has been disabled.</source>
-        <translation>Uživatelské jméno nebo heslo není správné nebo je účet zakázán.</translation>
+        <translation>Uživatelské jméno nebo heslo není správné, nebo je účet zakázán.</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -1145,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Můžete určit složku v počítači, která se bude synchronizovat se sdílenou složkou na zařízení NAS Orvane (doporučeno pro týmovou spolupráci).</translation>
+        <translation>V počítači můžete určit složku, která se bude synchronizovat se sdílenou složkou na zařízení NAS Orvane (doporučeno pro týmovou spolupráci).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message>
         <source>Quick setup</source>
-        <translation>Rychlé nastavení</translation>
+        <translation>Rychlá konfigurace</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -1333,7 +1333,7 @@
     </message>
     <message>
         <source>Advanced settings</source>
-        <translation>Rozšířená nastavení</translation>
+        <translation>Pokročilá nastavení</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -1545,7 +1545,7 @@
     </message>
     <message>
         <source>Advanced setup wizard</source>
-        <translation>Průvodce pokročilým nastavením</translation>
+        <translation>Průvodce pokročilou konfigurací</translation>
     </message>
     <message>
         <source>The selected folder is already part of a sync task on this computer.</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>Click Repair to restore missing or damaged files, shortcuts, and registry entries. Click Back to review your choice.</source>
-        <translation>Kliknutím na tlačítko „Opravit“ obnovíte chybějící nebo poškozené soubory, zástupce a položky registru. Chcete-li volbu změnit, klikněte na tlačítko „Zpět“.</translation>
+        <translation>Kliknutím na tlačítko „Opravit“ obnovíte chybějící nebo poškozené soubory, zástupce a položky registru. Chcete-li volbu zkontrolovat, klikněte na tlačítko „Zpět“.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1773,11 +1773,11 @@
     </message>
     <message>
         <source>Advanced setup</source>
-        <translation>Pokročilé nastavení</translation>
+        <translation>Pokročilá konfigurace</translation>
     </message>
     <message>
         <source>Custom range</source>
-        <translation>Vlastní rozsah</translation>
+        <translation>Vlastní období</translation>
     </message>
     <message>
         <source>You have reached the maximum of %1 sync tasks. Remove a sync task before you add another one.</source>
