@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Den lokale synkroniseringsdatabase kan ikke læses. Genstart Quillmere Drive. Hvis problemet fortsætter, skal du tilknytte denne computer igen.</translation>
+        <translation>Den lokale synkroniseringsdatabase kan ikke læses. Genstart Quillmere Drive. Hvis problemet fortsætter, skal du tilknytte denne computer til NAS-enheden igen.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -113,11 +113,11 @@
     </message>
     <message>
         <source>Keep both versions and rename the conflicting file</source>
-        <translation>Behold begge versioner, og omdøb filen i konflikt</translation>
+        <translation>Behold begge versioner, og omdøb konfliktfilen</translation>
     </message>
     <message>
         <source>Mount point not supported</source>
-        <translation>Monteringspunkt understøttes ikke</translation>
+        <translation>Monteringspunktet understøttes ikke</translation>
     </message>
     <message>
         <source>Linking...</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs [ProductName]. This may take several minutes.</source>
-        <translation>Vent, mens [ProductName] installeres. Det kan tage flere minutter.</translation>
+        <translation>Vent, mens installationsguiden installerer [ProductName]. Det kan tage flere minutter.</translation>
     </message>
     <message>
         <source>Saturday</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>Pause connection</source>
-        <translation>Sæt forbindelse på pause</translation>
+        <translation>Sæt forbindelsen på pause</translation>
     </message>
     <message>
         <source>Quillmere Drive is ready.</source>
@@ -365,7 +365,7 @@
     </message>
     <message>
         <source>Setup requires administrator rights. Do you want to restart it as an administrator?</source>
-        <translation>Installationen kræver administratorrettigheder. Vil du genstarte den som administrator?</translation>
+        <translation>Installationsprogrammet kræver administratorrettigheder. Vil du genstarte det som administrator?</translation>
     </message>
     <message>
         <source>Status</source>
@@ -425,7 +425,7 @@
     </message>
     <message>
         <source>You have read-only access to this folder. Changes made on this computer will not be synced to the NAS.</source>
-        <translation>Du har skrivebeskyttet adgang til denne mappe. Ændringer på denne computer synkroniseres ikke til NAS-enheden.</translation>
+        <translation>Du har kun læseadgang til denne mappe. Ændringer på denne computer synkroniseres ikke til NAS-enheden.</translation>
     </message>
     <message>
         <source>The version of Quillmere Drive on this computer is too old for the NAS. Version %1 or later is required.</source>
@@ -777,7 +777,7 @@
     </message>
     <message>
         <source>Files updated</source>
-        <translation>Opdaterede filer</translation>
+        <translation>Filer opdateret</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Re&amp;pair</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>Resume connection</source>
-        <translation>Genoptag forbindelse</translation>
+        <translation>Genoptag forbindelsen</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
@@ -1145,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Her kan du angive en mappe på computeren, som skal holdes synkroniseret med en delt mappe på din Orvane NAS (anbefales til teamarbejde).</translation>
+        <translation>Giver dig mulighed for at angive en mappe på computeren, som skal holdes synkroniseret med en delt mappe på din Orvane NAS (anbefales til teamarbejde).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1353,7 +1353,7 @@
     </message>
     <message>
         <source>You have read-only access to this shared folder. Files can be downloaded to this computer but not uploaded to the NAS.</source>
-        <translation>Du har skrivebeskyttet adgang til denne delte mappe. Filer kan downloades til computeren, men ikke uploades til NAS-enheden.</translation>
+        <translation>Du har kun læseadgang til denne delte mappe. Filer kan downloades til computeren, men ikke uploades til NAS-enheden.</translation>
     </message>
     <message>
         <source>The drive that contains the local folder is not mounted. Connect the drive to continue syncing.</source>
@@ -1593,7 +1593,7 @@
     </message>
     <message>
         <source>The SSL certificate of the NAS could not be verified. The folder cannot be selected until the certificate is trusted.</source>
-        <translation>NAS-enhedens SSL-certifikat kunne ikke bekræftes. Mappen kan ikke vælges, før certifikatet er godkendt.</translation>
+        <translation>NAS-enhedens SSL-certifikat kunne ikke bekræftes. Mappen kan ikke vælges, før der er tillid til certifikatet.</translation>
     </message>
     <message>
         <source>Password protection</source>
@@ -1685,7 +1685,7 @@
     </message>
     <message>
         <source>Change the installed features</source>
-        <translation>Rediger de installerede funktioner</translation>
+        <translation>Ændr de installerede funktioner</translation>
     </message>
     <message>
         <source>If you no longer need the program, you can remove it now. Your synced files will be kept on this computer.</source>
@@ -1841,7 +1841,7 @@
     </message>
     <message>
         <source>Do not use a proxy</source>
-        <translation>Brug ikke en proxy</translation>
+        <translation>Brug ikke proxy</translation>
     </message>
     <message>
         <source>Select the shared folder on the NAS that you want to sync with this computer.</source>
