@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Den lokale synkroniseringsdatabasen kan ikke leses. Start Quillmere Drive på nytt. Hvis problemet vedvarer, må du knytte denne datamaskinen til på nytt.</translation>
+        <translation>Den lokale synkroniseringsdatabasen kan ikke leses. Start Quillmere Drive på nytt. Hvis problemet vedvarer, må du knytte denne datamaskinen til NAS-enheten på nytt.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Keep both versions and rename the conflicting file</source>
-        <translation>Behold begge versjonene og gi filen med konflikt nytt navn</translation>
+        <translation>Behold begge versjonene og gi konfliktfilen nytt navn</translation>
     </message>
     <message>
         <source>Mount point not supported</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>Linking...</source>
-        <translation>Knytter til...</translation>
+        <translation>Knytter til NAS-enheten...</translation>
     </message>
     <message>
         <source>About Quillmere Drive</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Link again</source>
-        <translation>Knytt til på nytt</translation>
+        <translation>Knytt til NAS-enheten på nytt</translation>
     </message>
     <message>
         <source>Select how you want to sync files between this computer and your NAS. You can add more sync tasks later.</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>NAS-enheten på denne adressen er ikke den som denne datamaskinen ble knyttet til. Kontroller adressen, eller knytt datamaskinen til på nytt.</translation>
+        <translation>NAS-enheten på denne adressen er ikke den som denne datamaskinen ble knyttet til. Kontroller adressen, eller knytt datamaskinen til NAS-enheten på nytt.</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>The administrator requires two-factor verification for your account. Sign in to the NAS in a web browser and set it up first.</source>
-        <translation>Administratoren krever totrinnsbekreftelse for kontoen din. Logg på NAS-enheten i en nettleser og konfigurer den først.</translation>
+        <translation>Administratoren krever totrinnsbekreftelse for kontoen din. Logg på NAS-enheten i en nettleser og konfigurer totrinnsbekreftelsen først.</translation>
     </message>
     <message>
         <source>The sync direction of this folder does not match the permissions on the NAS. Please change the sync direction.</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>NAS-enheten på denne adressen er endret. Knytt denne datamaskinen til på nytt.</translation>
+        <translation>NAS-enheten på denne adressen er endret. Knytt denne datamaskinen til NAS-enheten på nytt.</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -1041,7 +1041,7 @@
     </message>
     <message>
         <source>Link this computer to your NAS in just a few steps.</source>
-        <translation>Knytt denne datamaskinen til NAS-enheten med noen få enkle trinn.</translation>
+        <translation>Knytt denne datamaskinen til NAS-enheten med bare noen få trinn.</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -1397,7 +1397,7 @@
     </message>
     <message>
         <source>Use a black and white tray icon</source>
-        <translation>Bruk svart-hvitt ikon i systemstatusfeltet</translation>
+        <translation>Bruk et svart-hvitt ikon i systemstatusfeltet</translation>
     </message>
     <message>
         <source>Sync history</source>
