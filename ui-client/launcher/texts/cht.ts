@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>無法讀取本機同步資料庫。請重新啟動 Quillmere Drive。如果問題持續發生，請重新關聯這部電腦。</translation>
+        <translation>無法讀取本機同步資料庫。請重新啟動 Quillmere Drive。如果問題持續發生，請為這部電腦重新建立關聯。</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>Linking...</source>
-        <translation>正在關聯...</translation>
+        <translation>正在建立關聯...</translation>
     </message>
     <message>
         <source>About Quillmere Drive</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>This file was changed on the computer and on the NAS at the same time, and the conflict could not be resolved.</source>
-        <translation>此檔案同時在電腦和 NAS 上變更，無法解決衝突。</translation>
+        <translation>此檔案在電腦和 NAS 上同時有變更，且無法解決衝突。</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Link again</source>
-        <translation>重新關聯</translation>
+        <translation>重新建立關聯</translation>
     </message>
     <message>
         <source>Select how you want to sync files between this computer and your NAS. You can add more sync tasks later.</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>This computer is now linked to your NAS. Syncing starts as soon as you close the wizard.</source>
-        <translation>這部電腦已與您的 NAS 關聯。關閉精靈後即會開始同步。</translation>
+        <translation>這部電腦已與您的 NAS 建立關聯。關閉精靈後即會開始同步。</translation>
     </message>
     <message>
         <source>Enable sync for this shared folder</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>This computer is already linked to the same NAS. Edit the existing connection instead.</source>
-        <translation>這部電腦已與同一部 NAS 關聯。請改為編輯現有的連線。</translation>
+        <translation>這部電腦已與同一部 NAS 建立關聯。請改為編輯現有的連線。</translation>
     </message>
     <message>
         <source>%1 item(s)</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>此位址的 NAS 並非這部電腦先前關聯的 NAS。請檢查位址，或重新關聯這部電腦。</translation>
+        <translation>此位址的 NAS 並非這部電腦先前建立關聯的 NAS。請檢查位址，或為這部電腦重新建立關聯。</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The folder home\Quillmere on your NAS has already been linked to this PC. We will launch the synced folder when you click Done. Or you can set up a seperate task: %1</source>
-        <translation>您 NAS 上的資料夾 home\Quillmere 已與這部電腦關聯。按一下「完成」後，將會開啟同步資料夾。您也可以設定另一個同步工作：%1</translation>
+        <translation>您 NAS 上的資料夾 home\Quillmere 已與這部電腦建立關聯。按一下「完成」後，將會開啟同步資料夾。您也可以設定另一個同步工作：%1</translation>
     </message>
     <message>
         <source>The port number is invalid. Enter a number from 1 to 65535.</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Welcome to Quillmere Drive. This wizard will help you link this computer to your NAS.</source>
-        <translation>歡迎使用 Quillmere Drive。此精靈將協助您將這部電腦與 NAS 關聯。</translation>
+        <translation>歡迎使用 Quillmere Drive。此精靈將協助您在這部電腦與 NAS 之間建立關聯。</translation>
     </message>
     <message>
         <source>Show icon overlays on synced files and folders</source>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>Link to a new NAS</source>
-        <translation>關聯新的 NAS</translation>
+        <translation>與新的 NAS 建立關聯</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>此位址的 NAS 已變更。請重新關聯這部電腦。</translation>
+        <translation>此位址的 NAS 已變更。請為這部電腦重新建立關聯。</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -1041,7 +1041,7 @@
     </message>
     <message>
         <source>Link this computer to your NAS in just a few steps.</source>
-        <translation>只需幾個步驟，即可將這部電腦與您的 NAS 關聯。</translation>
+        <translation>只需幾個步驟，即可在這部電腦與您的 NAS 之間建立關聯。</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -1633,11 +1633,11 @@
     </message>
     <message>
         <source>Blocked by:</source>
-        <translation>封鎖來源：</translation>
+        <translation>遭下列項目封鎖：</translation>
     </message>
     <message>
         <source>This computer is linked to your NAS, and your files are now being synced.</source>
-        <translation>這部電腦已與您的 NAS 關聯，現在正在同步您的檔案。</translation>
+        <translation>這部電腦已與您的 NAS 建立關聯，現在正在同步您的檔案。</translation>
     </message>
     <message>
         <source>The RapidHail ID is invalid or does not exist.</source>
@@ -1757,7 +1757,7 @@
     </message>
     <message>
         <source>Folder already linked</source>
-        <translation>資料夾已關聯</translation>
+        <translation>資料夾已建立關聯</translation>
     </message>
     <message>
         <source>The maximum length of this field is %1 characters.</source>
