@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>No se puede leer la base de datos de sincronización local. Reinicie Quillmere Drive. Si el problema persiste, vuelva a vincular este equipo.</translation>
+        <translation>No se puede leer la base de datos de sincronización local. Reinicie Quillmere Drive. Si el problema persiste, vuelva a vincular este equipo al NAS.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>This computer is already linked to the same NAS. Edit the existing connection instead.</source>
-        <translation>Este equipo ya está vinculado al mismo NAS. Edite la conexión existente.</translation>
+        <translation>Este equipo ya está vinculado al mismo NAS. En su lugar, edite la conexión existente.</translation>
     </message>
     <message>
         <source>%1 item(s)</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>El NAS de esta dirección no es el que estaba vinculado a este equipo. Compruebe la dirección o vuelva a vincular el equipo.</translation>
+        <translation>El NAS de esta dirección no es aquel al que estaba vinculado este equipo. Compruebe la dirección o vuelva a vincular el equipo.</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The folder home\Quillmere on your NAS has already been linked to this PC. We will launch the synced folder when you click Done. Or you can set up a seperate task: %1</source>
-        <translation>La carpeta home\Quillmere de su NAS ya se ha vinculado a este PC. Al hacer clic en «Listo», se abrirá la carpeta sincronizada. También puede configurar una tarea independiente: %1</translation>
+        <translation>La carpeta home\Quillmere de su NAS ya se ha vinculado a este equipo. Al hacer clic en «Listo», se abrirá la carpeta sincronizada. También puede configurar una tarea independiente: %1</translation>
     </message>
     <message>
         <source>The port number is invalid. Enter a number from 1 to 65535.</source>
@@ -829,7 +829,7 @@
     </message>
     <message>
         <source>Start Quillmere Drive automatically when I sign in</source>
-        <translation>Iniciar Quillmere Drive automáticamente al iniciar sesión</translation>
+        <translation>Iniciar Quillmere Drive automáticamente al abrir sesión</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this link? People who have it will no longer be able to open the file.</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
-        <translation>Se creará una carpeta Quillmere en su equipo, que se mantendrá sincronizada con su carpeta personal del NAS de Orvane (recomendado para uso personal).</translation>
+        <translation>Crea una carpeta Quillmere en su equipo y la mantiene sincronizada con la carpeta personal de su NAS de Orvane (recomendado para uso personal).</translation>
     </message>
     <message>
         <source>Click here to upgrade</source>
@@ -1025,7 +1025,7 @@
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
-        <translation>Cambia el conjunto de características de [ProductName] instaladas.</translation>
+        <translation>Cambia el conjunto de características instaladas de [ProductName].</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -1101,7 +1101,7 @@
     </message>
     <message>
         <source>Enter the connection settings for your NAS.</source>
-        <translation>Especifique la configuración de conexión de su NAS.</translation>
+        <translation>Especifique la configuración de conexión con su NAS.</translation>
     </message>
     <message>
         <source>SSL certificate warning</source>
@@ -1145,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Permite especificar una carpeta de su equipo para mantenerla sincronizada con una carpeta compartida de su NAS de Orvane (recomendado para el trabajo en equipo).</translation>
+        <translation>Permite especificar una carpeta de su equipo para mantenerla sincronizada con una carpeta compartida de su NAS de Orvane (recomendado para el trabajo en grupo).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1705,7 +1705,7 @@
     </message>
     <message>
         <source>Check all file attributes for changes</source>
-        <translation>Comprobar si hay cambios en todos los atributos de los archivos</translation>
+        <translation>Comprobar todos los atributos de los archivos para detectar cambios</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Change, repair, or remove the installation</source>
