@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Impossible de lire la base de données de synchronisation locale. Redémarrez Quillmere Drive. Si le problème persiste, associez à nouveau cet ordinateur.</translation>
+        <translation>Impossible de lire la base de données de synchronisation locale. Redémarrez Quillmere Drive. Si le problème persiste, réassociez cet ordinateur au NAS.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>Connection information</source>
-        <translation>Informations de connexion</translation>
+        <translation>Informations sur la connexion</translation>
     </message>
     <message>
         <source>There is not enough free space on the NAS. Free up some space to continue syncing.</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Quillmere Drive on this computer is outdated. Please update it to version %1 or later.</source>
-        <translation>La version de Quillmere Drive installée sur cet ordinateur est obsolète. Installez la version %1 ou une version ultérieure.</translation>
+        <translation>Quillmere Drive est obsolète sur cet ordinateur. Mettez-le à jour vers la version %1 ou une version ultérieure.</translation>
     </message>
     <message>
         <source>This computer is now linked to your NAS. Syncing starts as soon as you close the wizard.</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>The NAS at this address is not the one that this computer was linked to. Check the address or link the computer again.</source>
-        <translation>Le NAS situé à cette adresse n&apos;est pas celui auquel cet ordinateur était associé. Vérifiez l&apos;adresse ou associez à nouveau l&apos;ordinateur.</translation>
+        <translation>Le NAS situé à cette adresse n&apos;est pas celui auquel cet ordinateur était associé. Vérifiez l&apos;adresse ou réassociez l&apos;ordinateur.</translation>
     </message>
     <message>
         <source>The upgrade failed. Please download the latest version and install it manually.</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>Le NAS situé à cette adresse a changé. Associez à nouveau cet ordinateur.</translation>
+        <translation>Le NAS situé à cette adresse a changé. Réassociez cet ordinateur.</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -913,11 +913,11 @@
     </message>
     <message>
         <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
-        <translation>Ce mode crée un dossier Quillmere sur votre ordinateur et le maintient synchronisé avec votre dossier personnel sur le NAS Orvane (recommandé pour un usage personnel).</translation>
+        <translation>Ce mode crée un dossier Quillmere sur votre ordinateur et le maintient synchronisé avec votre dossier personnel sur votre NAS Orvane (recommandé pour un usage personnel).</translation>
     </message>
     <message>
         <source>Click here to upgrade</source>
-        <translation>Cliquez ici pour mettre à niveau</translation>
+        <translation>Cliquez ici pour effectuer la mise à niveau</translation>
     </message>
     <message>
         <source>April</source>
@@ -1365,7 +1365,7 @@
     </message>
     <message>
         <source>Search the local network for an Orvane NAS.</source>
-        <translation>Recherchez un NAS Orvane sur le réseau local.</translation>
+        <translation>Rechercher un NAS Orvane sur le réseau local.</translation>
     </message>
     <message>
         <source>Storage full</source>
@@ -1677,7 +1677,7 @@
     </message>
     <message>
         <source>Quillmere Drive Server on the NAS is outdated. Please ask the administrator to update it to version %1 or later.</source>
-        <translation>La version de Quillmere Drive Server installée sur le NAS est obsolète. Demandez à l&apos;administrateur d&apos;installer la version %1 ou une version ultérieure.</translation>
+        <translation>Quillmere Drive Server est obsolète sur le NAS. Demandez à l&apos;administrateur de le mettre à jour vers la version %1 ou une version ultérieure.</translation>
     </message>
     <message>
         <source>Done</source>
