@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>The icon in the system tray shows the sync status at a glance. Click it to pause syncing, view recent changes, or open the settings.</source>
-        <translation>O ícone na bandeja do sistema mostra rapidamente o status da sincronização. Clique nele para pausar a sincronização, ver as alterações recentes ou abrir as configurações.</translation>
+        <translation>O ícone na bandeja do sistema permite ver rapidamente o status da sincronização. Clique nele para pausar a sincronização, ver as alterações recentes ou abrir as configurações.</translation>
     </message>
     <message>
         <source>Paused</source>
@@ -1097,7 +1097,7 @@
     </message>
     <message>
         <source>Set up the folder to sync</source>
-        <translation>Configurar a pasta para sincronizar</translation>
+        <translation>Configurar a pasta a ser sincronizada</translation>
     </message>
     <message>
         <source>Enter the connection settings for your NAS.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>No, thanks</source>
-        <translation>Agora não</translation>
+        <translation>Não é necessário</translation>
     </message>
     <message>
         <source>New shared folder</source>
