@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Impossibile leggere il database di sincronizzazione locale. Riavviare Quillmere Drive. Se il problema persiste, ricollegare il computer.</translation>
+        <translation>Impossibile leggere il database di sincronizzazione locale. Riavviare Quillmere Drive. Se il problema persiste, ricollegare il computer al NAS.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>Up to date</source>
-        <translation>Aggiornato</translation>
+        <translation>Aggiornata</translation>
     </message>
     <message>
         <source>A sync task named &quot;%1&quot; already exists. Please enter another name.</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>This computer is already linked to the same NAS. Edit the existing connection instead.</source>
-        <translation>Questo computer è già collegato allo stesso NAS. Modificare la connessione esistente.</translation>
+        <translation>Questo computer è già collegato allo stesso NAS. Modificare invece la connessione esistente.</translation>
     </message>
     <message>
         <source>%1 item(s)</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>The NAS at this address has changed. Please link this computer again.</source>
-        <translation>Il NAS a questo indirizzo è cambiato. Ricollegare il computer.</translation>
+        <translation>Il NAS a questo indirizzo è cambiato. Ricollegare il computer al NAS.</translation>
     </message>
     <message>
         <source>The installation of [ProductName] was interrupted. Your system has not been changed. To install the program later, run Setup again.</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>This creates a Quillmere folder on your computer and keeps it synced with your home folder on your Orvane NAS (recommended for personal use).</source>
-        <translation>Crea una cartella Quillmere sul computer e la mantiene sincronizzata con la cartella home sul NAS Orvane (consigliata per uso personale).</translation>
+        <translation>Crea una cartella Quillmere sul computer e la mantiene sincronizzata con la cartella home sul NAS Orvane (modalità consigliata per uso personale).</translation>
     </message>
     <message>
         <source>Click here to upgrade</source>
@@ -1025,7 +1025,7 @@
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
-        <translation>Modifica l&apos;insieme delle funzionalità di [ProductName] installate.</translation>
+        <translation>Modifica l&apos;insieme delle funzionalità installate di [ProductName].</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -1101,7 +1101,7 @@
     </message>
     <message>
         <source>Enter the connection settings for your NAS.</source>
-        <translation>Immettere le impostazioni di connessione del NAS.</translation>
+        <translation>Immettere le impostazioni di connessione al NAS.</translation>
     </message>
     <message>
         <source>SSL certificate warning</source>
@@ -1145,7 +1145,7 @@
     </message>
     <message>
         <source>This allows you to specify a folder on your computer to keep synced with a shared folder on your Orvane NAS. (Recommended for teamwork)​.</source>
-        <translation>Consente di specificare una cartella sul computer da mantenere sincronizzata con una cartella condivisa sul NAS Orvane (consigliata per il lavoro in team).</translation>
+        <translation>Consente di specificare una cartella sul computer da mantenere sincronizzata con una cartella condivisa sul NAS Orvane (modalità consigliata per il lavoro in team).</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin repairing [ProductName].</source>
@@ -1465,7 +1465,7 @@
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Caricamento sul NAS...</translation>
+        <translation>Caricamento sul NAS in corso...</translation>
     </message>
     <message>
         <source>Your Quillmere folder is ready. Drop files into it and they will be synced with your NAS.</source>
@@ -1489,7 +1489,7 @@
     </message>
     <message>
         <source>The selected folder is on a network drive. Changes made there by other computers may not be detected immediately.</source>
-        <translation>La cartella selezionata si trova su un&apos;unità di rete. Le modifiche apportate da altri computer potrebbero non essere rilevate immediatamente.</translation>
+        <translation>La cartella selezionata si trova su un&apos;unità di rete. Le modifiche apportate al suo contenuto da altri computer potrebbero non essere rilevate immediatamente.</translation>
     </message>
     <message>
         <source>Show icon overlays on files excluded by the file filter</source>
