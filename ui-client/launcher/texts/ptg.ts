@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>The local sync database cannot be read. Restart Quillmere Drive. If the problem persists, link this computer again.</source>
-        <translation>Não é possível ler a base de dados de sincronização local. Reinicie Quillmere Drive. Se o problema persistir, associe novamente este computador.</translation>
+        <translation>Não é possível ler a base de dados de sincronização local. Reinicie Quillmere Drive. Se o problema persistir, associe novamente este computador ao NAS.</translation>
     </message>
     <message>
         <source>Choose the folders to sync</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>Up to date</source>
-        <translation>Atualizado</translation>
+        <translation>Atualizada</translation>
     </message>
     <message>
         <source>A sync task named &quot;%1&quot; already exists. Please enter another name.</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The folder home\Quillmere on your NAS has already been linked to this PC. We will launch the synced folder when you click Done. Or you can set up a seperate task: %1</source>
-        <translation>A pasta home\Quillmere do seu NAS já foi associada a este PC. A pasta sincronizada será aberta quando clicar em “Concluído”. Em alternativa, pode configurar uma tarefa separada: %1</translation>
+        <translation>A pasta home\Quillmere do seu NAS já foi associada a este computador. A pasta sincronizada será aberta quando clicar em “Concluído”. Em alternativa, pode configurar uma tarefa separada: %1</translation>
     </message>
     <message>
         <source>The port number is invalid. Enter a number from 1 to 65535.</source>
@@ -645,7 +645,7 @@
     </message>
     <message>
         <source>NAS changed</source>
-        <translation>NAS alterado</translation>
+        <translation>O NAS mudou</translation>
     </message>
     <message>
         <source>Back</source>
@@ -1025,7 +1025,7 @@
     </message>
     <message>
         <source>Changes the set of [ProductName] features that are installed.</source>
-        <translation>Altera o conjunto de funcionalidades de [ProductName] instaladas.</translation>
+        <translation>Altera o conjunto de funcionalidades instaladas de [ProductName].</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -1101,11 +1101,11 @@
     </message>
     <message>
         <source>Enter the connection settings for your NAS.</source>
-        <translation>Introduza as definições de ligação do seu NAS.</translation>
+        <translation>Introduza as definições de ligação ao seu NAS.</translation>
     </message>
     <message>
         <source>SSL certificate warning</source>
-        <translation>Aviso do certificado SSL</translation>
+        <translation>Aviso de certificado SSL</translation>
     </message>
     <message>
         <source>Share files with a link</source>
@@ -1241,7 +1241,7 @@
     </message>
     <message>
         <source>Set an expiration date for this link</source>
-        <translation>Definir uma data de validade para esta hiperligação</translation>
+        <translation>Definir uma data de expiração para esta hiperligação</translation>
     </message>
     <message>
         <source>Change local folder</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>You can also protect a link with a password or set an expiration date.</source>
-        <translation>Também pode proteger uma hiperligação com palavra-passe ou definir uma data de validade.</translation>
+        <translation>Também pode proteger uma hiperligação com palavra-passe ou definir uma data de expiração.</translation>
     </message>
     <message>
         <source>All your files, always at hand</source>
@@ -1533,7 +1533,7 @@
     </message>
     <message>
         <source>Expiration date</source>
-        <translation>Data de validade</translation>
+        <translation>Data de expiração</translation>
     </message>
     <message>
         <source>September</source>
@@ -1705,7 +1705,7 @@
     </message>
     <message>
         <source>Check all file attributes for changes</source>
-        <translation>Verificar se há alterações em todos os atributos dos ficheiros</translation>
+        <translation>Verificar todos os atributos dos ficheiros para detetar alterações</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Change, repair, or remove the installation</source>
