@@ -1,0 +1,160 @@
+// The log, the configuration reader and the file layer, beside what does the same elsewhere.
+#include <spdlog/sinks/rotating_file_sink.h>
+#include <spdlog/spdlog.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QSettings>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+
+#include "bench/micro.h"
+#include "config.h"
+#include "file/file-op.h"
+#include "log.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kLogSize = 1048576;
+constexpr int kLogFiles = 49;
+constexpr int kSettings = 5000;
+// More files than QSettings keeps parsed, so that each is read anew.
+constexpr int kSettingsFiles = 64;
+
+const ustring passing("passing_debug");
+const ustring stopped("file_op_debug");
+
+void SetUpOurLog() {
+    std::ofstream("levels") << "launcher_debug=4\nservice_debug=4\nextractor_debug=4\n"
+                               "file_op_debug=4\npassing_debug=7\n";
+    Logger::Initialize(Logger::TYPE_FILE, "ours.log", "levels", kLogFiles + 1);
+}
+
+// The same line, flushed each time, and the same rotation.
+std::shared_ptr<spdlog::logger> PeersLog() {
+    static const auto log = [] {
+        const auto made = spdlog::rotating_logger_mt("peer", "peer.log", kLogSize, kLogFiles);
+        made->set_pattern("%b %d %H:%M:%S %v");
+        made->flush_on(spdlog::level::trace);
+        made->set_level(spdlog::level::info);
+        return made;
+    }();
+    return log;
+}
+
+int Line(Logger::Level level, const ustring& component) {
+    Logger::LogMsg(level, component, "[DEBUG] file-op(%d): Input file path = [%s].\n", __LINE__,
+                   "/home/user/.Quillmere/Quillmere.app");
+    return 0;
+}
+
+int PeersLine(spdlog::level::level_enum level) {
+    static spdlog::logger& log = *PeersLog();
+    log.log(level, "[DEBUG] file-op({}): Input file path = [{}].", __LINE__,
+            "/home/user/.Quillmere/Quillmere.app");
+    return 0;
+}
+
+void RegisterLog() {
+    SetUpOurLog();
+    PeersLog();
+    for (const int threads : {1, 2, 4}) {
+        const std::string suffix = "-" + std::to_string(threads);
+        Row(
+            "log-line" + suffix, [] { return Line(Logger::LEVEL_DEBUG, passing); },
+            [] { return PeersLine(spdlog::level::info); }, threads);
+        Row(
+            "log-stopped" + suffix, [] { return Line(Logger::LEVEL_DEBUG, stopped); },
+            [] { return PeersLine(spdlog::level::debug); }, threads);
+    }
+}
+
+std::string SettingsFile(int number) {
+    return "settings" + std::to_string(number);
+}
+
+void RegisterConfig() {
+    for (int file = 0; file < kSettingsFiles; ++file) {
+        std::ofstream out(SettingsFile(file));
+        for (int line = 0; line < kSettings; ++line) {
+            out << "key_" << line << "=value-" << line * 31 << "\n";
+        }
+    }
+    Row(
+        "config",
+        [file = 0]() mutable {
+            Config config;
+            config.read(SettingsFile(file++ % kSettingsFiles));
+            return config["key_4999"].length();
+        },
+        [file = 0]() mutable {
+            const QSettings settings(QString::fromStdString(SettingsFile(file++ % kSettingsFiles)),
+                                     QSettings::IniFormat);
+            return settings.value("key_4999").toString().size();
+        });
+}
+
+// An existing path of so many components, below the working directory as far as it is deep enough.
+std::string PathOfDepth(int depth) {
+    if (depth == 2) {
+        return "/etc/passwd";
+    }
+    const fs::path here = fs::current_path();
+    fs::path path = here;
+    for (auto own = std::distance(here.begin(), here.end()); own <= depth; ++own) {
+        path /= "directory";
+    }
+    fs::create_directories(path);
+    return path.string();
+}
+
+void RegisterFileInfo() {
+    for (const int depth : {2, 8, 32}) {
+        const std::string path = PathOfDepth(depth);
+        Row(
+            "file-info-" + std::to_string(depth),
+            [path = ustring(path)] {
+                _FILE_INFO_tag info;
+                GetFileInfo(path, info);
+                return info.size;
+            },
+            [path] {
+                struct stat status;
+                lstat(path.c_str(), &status);
+                char* const real = realpath(path.c_str(), nullptr);
+                std::free(real);
+                return status.st_size;
+            });
+    }
+}
+
+// Moves a tree of so many files to and fro.
+auto Moving(int files) {
+    const std::string name = "tree" + std::to_string(files);
+    fs::create_directories(name);
+    for (int file = 0; file < files; ++file) {
+        std::ofstream(name + "/" + std::to_string(file)) << file;
+    }
+    return [from = ustring(name), to = ustring(name) + "-moved"]() mutable {
+        from.swap(to);
+        return FSRename(to, from, false);
+    };
+}
+
+void RegisterRename() {
+    Row("rename", Moving(10000), Moving(10));
+}
+
+}  // namespace
+
+void RegisterLibraryRows() {
+    RegisterLog();
+    RegisterConfig();
+    RegisterFileInfo();
+    RegisterRename();
+}

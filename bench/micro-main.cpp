@@ -1,0 +1,15 @@
+// The micro-benchmarks, with Google Benchmark's own options. Files are made in the working
+// directory.
+#include <QCoreApplication>
+
+#include "bench/micro.h"
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    const QCoreApplication application(argc, argv);
+    RegisterStringRows();
+    RegisterLibraryRows();
+    RegisterTextRows();
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
