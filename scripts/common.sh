@@ -7,7 +7,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 packages=(
   g++ cmake ninja-build pkg-config git ca-certificates
   qtbase5-dev qttools5-dev qttools5-dev-tools libarchive-dev libicu-dev libxcb1-dev libfontconfig-dev
-  libgtest-dev zstd python3 mount util-linux procps
+  libgtest-dev libzstd-dev zstd python3 mount util-linux procps
   xvfb openbox xdotool x11-utils imagemagick fonts-liberation fonts-dejavu-core fonts-noto-cjk
 )
 
@@ -40,11 +40,8 @@ build() {
 
 # make_bundle BUILD_DIR CLIENT_DIR BUILD_NUMBER OUTPUT
 make_bundle() {
-  local plugins
-  plugins=$(sed -n 's/^QUILLMERE_QT_PLUGINS:INTERNAL=//p' "$1/CMakeCache.txt")
-  cmake -DLAUNCHER="$1/launcher" -DMAKE_PACKAGE="$1/bundle/make-package" \
-    -DICON=bundle/ico_72_quillmere.png -DPLUGINS="$plugins" -DCLIENT_DIR="$2" -DBUILD_NUMBER="$3" \
-    -DMAJOR_VERSION=1 -DMINOR_VERSION=0 -DICON_OVERLAY_VERSION=1 -DOUTPUT="$4" -P cmake/make-bundle.cmake
+  "$1/tools/qpk/qpk" bundle --launcher "$1/launcher" --icon bundle/ico_72_quillmere.png --client "$2" --build "$3" \
+    --major 1 --minor 0 --icon-overlay 1 --output "$4"
 }
 
 # wait_for SECONDS COMMAND...: polls until the command succeeds.

@@ -1,0 +1,23 @@
+// One object of a client, read from its directory or from a package.
+#include "tools/qpk/entry.h"
+
+#include <cstdio>
+
+std::string Visible(const std::string& name) {
+    std::string text;
+    for (const char c : name) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte < 0x20 || byte == 0x7F) {
+            char escaped[5];
+            std::snprintf(escaped, sizeof escaped, "\\x%02X", byte);
+            text += escaped;
+        } else {
+            text += c;
+        }
+    }
+    return text;
+}
+
+std::string ToString(const Finding& finding) {
+    return Visible((finding.entry.empty() ? "" : finding.entry + ": ") + finding.text);
+}

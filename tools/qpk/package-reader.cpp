@@ -1,0 +1,152 @@
+// Reading of packages, by whatever tool they were made.
+#include "tools/qpk/package-reader.h"
+
+#include <QFile>
+
+#include "tools/qpk/archive-handles.h"
+#include "tools/qpk/error.h"
+#include "tools/qpk/layout.h"
+#include "tools/qpk/progress.h"
+
+namespace {
+
+constexpr std::size_t kBlockSize = 1 << 17;
+constexpr std::int64_t kLargestInfo = 1 << 16;
+
+const char* OrEmpty(const char* text) {
+    return text == nullptr ? "" : text;
+}
+
+// Without "." and empty components, but with a leading "/".
+std::string Normalised(const std::string& path) {
+    std::string result = path.rfind('/', 0) == 0 ? "/" : "";
+    for (std::size_t begin = 0; begin < path.size();) {
+        const std::size_t end = std::min(path.find('/', begin), path.size());
+        const std::string name = path.substr(begin, end - begin);
+        if (!name.empty() && name != ".") {
+            result += (result.empty() || result == "/" ? "" : "/") + name;
+        }
+        begin = end + 1;
+    }
+    return result;
+}
+
+Entry Describe(archive_entry* header) {
+    Entry entry;
+    entry.path = Normalised(OrEmpty(archive_entry_pathname(header)));
+    entry.mode = archive_entry_mode(header);
+    entry.size = archive_entry_size(header);
+    entry.link_text = OrEmpty(archive_entry_symlink(header));
+    entry.hard_link = OrEmpty(archive_entry_hardlink(header));
+    return entry;
+}
+
+// Whether the file's outermost form has a checksum over the content. The flags lie where RFC 8878
+// (zstd), the .xz and the LZ4 frame formats have them; gzip, bzip2, lzip, zip and 7-Zip always have
+// one, and a plain tar has one of its headers only.
+bool HasChecksum(const std::string& path) {
+    QFile file(QString::fromStdString(path));
+    file.open(QIODevice::ReadOnly);
+    const QByteArray head = file.read(16);
+    const auto bits = [&head](int at) { return at < head.size() ? head.at(at) : 0; };
+    if (head.startsWith("\x28\xB5\x2F\xFD")) {
+        return (bits(4) & 0x04) != 0;
+    }
+    if (head.startsWith("\x04\x22\x4D\x18")) {
+        return (bits(4) & 0x14) != 0;
+    }
+    if (head.startsWith(QByteArray("\xFD"
+                                   "7zXZ\0",
+                                   6))) {
+        return bits(7) != 0;
+    }
+    for (const char* const magic : {"\x1F\x8B", "BZh", "LZIP", "PK\x03\x04", "7z\xBC\xAF"}) {
+        if (head.startsWith(magic)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+class PackageReader {
+  public:
+    explicit PackageReader(const std::string& path) : path_(path), reader_(archive_read_new()) {
+        if (QFile file(QString::fromStdString(path)); !file.open(QIODevice::ReadOnly)) {
+            throw Failure(path + ": " + file.errorString().toStdString());
+        }
+        archive_read_support_filter_all(reader_.get());
+        archive_read_support_format_all(reader_.get());
+        if (archive_read_open_filename(reader_.get(), path.c_str(), kBlockSize) != ARCHIVE_OK) {
+            Refuse(ErrorText(reader_.get()));
+        }
+    }
+
+    PackageFacts Read(const std::function<void(const Entry&)>& visit) {
+        facts_.packed = QFile(QString::fromStdString(path_)).size();
+        facts_.has_checksum = HasChecksum(path_);
+        Progress progress("reading", facts_.packed);
+        for (archive_entry* header = nullptr; Next(&header);) {
+            const Entry entry = Describe(header);
+            visit(entry);
+            ++facts_.entries;
+            facts_.unpacked += entry.size;
+            facts_.info_is_last = entry.path == layout::kInfo;
+            if (!Skip(entry)) {
+                break;
+            }
+            progress.MoveTo(archive_filter_bytes(reader_.get(), -1));
+        }
+        if (facts_.entries == 0 && !facts_.damage.empty()) {
+            Refuse(facts_.damage);
+        }
+        Name();
+        return facts_;
+    }
+
+  private:
+    [[noreturn]] void Refuse(const std::string& why) {
+        throw Refused({{path_, "cannot be read, and would never install: " + why}});
+    }
+
+    bool Next(archive_entry** header) {
+        return Holds(archive_read_next_header(reader_.get(), header));
+    }
+
+    // Goes over the entry's data; those of INFO are kept.
+    bool Skip(const Entry& entry) {
+        if (!facts_.info_is_last || entry.size > kLargestInfo) {
+            return Holds(archive_read_data_skip(reader_.get()));
+        }
+        facts_.info.resize(static_cast<std::size_t>(entry.size));
+        const la_ssize_t size =
+            archive_read_data(reader_.get(), &facts_.info[0], facts_.info.size());
+        return Holds(size < 0 ? static_cast<int>(size) : ARCHIVE_OK);
+    }
+
+    // To the launcher a warning is a failure too.
+    bool Holds(int result) {
+        if (result != ARCHIVE_OK && result != ARCHIVE_EOF) {
+            facts_.damage = ErrorText(reader_.get());
+        }
+        return result == ARCHIVE_OK;
+    }
+
+    void Name() {
+        facts_.form = OrEmpty(archive_format_name(reader_.get()));
+        // The last one is libarchive's own, of no filter at all.
+        for (int i = archive_filter_count(reader_.get()) - 2; i >= 0; --i) {
+            facts_.filters.insert(facts_.filters.begin(),
+                                  OrEmpty(archive_filter_name(reader_.get(), i)));
+        }
+    }
+
+    const std::string path_;
+    const ArchiveReader reader_;
+    PackageFacts facts_;
+};
+
+}  // namespace
+
+PackageFacts ReadPackage(const std::string& path, const std::function<void(const Entry&)>& visit) {
+    return PackageReader(path).Read(visit);
+}

@@ -1,0 +1,24 @@
+// Writing of packages.
+#pragma once
+
+#include <ctime>
+#include <optional>
+#include <string>
+
+#include "tools/qpk/version-info.h"
+
+struct PackageOptions {
+    std::string client;   // the directory that will be the private copy
+    std::string package;  // the file to be written
+    // INFO of the package, in place of one that the client's directory has; that one if not set.
+    std::optional<VersionInfo> version;
+    int level = 9;         // of zstd
+    std::time_t time = 0;  // of all entries
+};
+
+// Packs a client into a pax tar compressed by zstd. Its entries stand in path order but for INFO,
+// which is the last: a copy that was cut short has no version and is replaced at the next start.
+// The same input gives the same bytes. Result: the content of INFO. Throws Refused with all faults
+// of the client, before anything is written, or Failure; the package appears under its name when it
+// is whole.
+std::string WritePackage(const PackageOptions& options);

@@ -1,0 +1,37 @@
+// A file compressed by zstd.
+#pragma once
+
+#include <zstd.h>
+
+#include <QSaveFile>
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+// Writes one zstd frame with a checksum of its content, which libarchive's own filter does not
+// write: damage in data that do not shrink would go unseen. The file appears under its name with
+// Commit, whole; until then a former one stays. The bytes are the same for any number of
+// processors. All operations throw Failure.
+class ZstdFile {
+  public:
+    ZstdFile(const std::string& path, int level);
+
+    void Write(const void* data, std::size_t size) { Compress(data, size, ZSTD_e_continue); }
+    void Commit();
+
+    static constexpr int kFastest = 1;
+    static constexpr int kSmallest = 19;  // higher levels ask for more memory of who unpacks
+
+  private:
+    struct ContextFreer {
+        void operator()(ZSTD_CCtx* context) const { ZSTD_freeCCtx(context); }
+    };
+
+    void Compress(const void* data, std::size_t size, ZSTD_EndDirective directive);
+    [[noreturn]] void Fail(const std::string& why) const;
+
+    QSaveFile file_;
+    const std::unique_ptr<ZSTD_CCtx, ContextFreer> context_;
+    std::vector<char> buffer_;
+};
