@@ -18,6 +18,7 @@
 #include <QVBoxLayout>
 #include <QWidget>
 #include <cstdio>
+#include <memory>
 
 #include "platform/desktop/gui-environment.h"
 
@@ -88,9 +89,11 @@ void FillWindow(QWidget& window) {
 
 int main(int argc, char** argv) {
     // Syncing needs no window either.
-    GuiEnvironment environment(QLibraryInfo::location(QLibraryInfo::PluginsPath));
+    auto environment =
+        std::make_unique<GuiEnvironment>(QLibraryInfo::location(QLibraryInfo::PluginsPath), argv);
     QApplication application(argc, argv);
-    environment.Restore();
+    environment->Restore();
+    environment.reset();
     QDir().mkpath(UserDirectory());
     QLockFile only_one(UserDirectory() + "/ui.lock");
     only_one.setStaleLockTime(0);

@@ -1,8 +1,12 @@
 // Nothing to prepare: a session has a display, and the bundle its plug-ins.
 #include "platform/desktop/gui-environment.h"
 
-GuiEnvironment::GuiEnvironment(const QString&) {}
+struct GuiEnvironment::Parts {};
+
+GuiEnvironment::GuiEnvironment(const QString&, char**) {}
+
+GuiEnvironment::~GuiEnvironment() = default;
 
 void GuiEnvironment::Restore() {}
 
-void GuiEnvironment::Set(const char*, const QByteArray&) {}
+void GuiEnvironment::GiveDisplayUp() {}

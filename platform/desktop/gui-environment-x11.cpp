@@ -1,54 +1,76 @@
 // Displays and plug-ins where the window system is X11 or Wayland.
-#include <fontconfig/fontconfig.h>
-
+#include <QAccessible>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QList>
+#include <QOpenGLContext>
 #include <algorithm>
+#include <utility>
+#include <vector>
 
-#include "platform/desktop/display-x11.h"
 #include "platform/desktop/gui-environment.h"
+#include "platform/desktop/run-guard.h"
+#include "platform/desktop/session-watch.h"
+#include "platform/desktop/start-over.h"
 
 namespace {
 
 constexpr char kPlatforms[] = "QT_QPA_PLATFORM";
 constexpr char kPlatformPlugins[] = "QT_QPA_PLATFORM_PLUGIN_PATH";
+constexpr char kOffscreen[] = "offscreen";
+
+using Platforms = QList<QByteArray>;
 
 bool IsX11(const QByteArray& platform) {
     return platform.startsWith("xcb");
 }
 
+bool IsOfTheSession(const QByteArray& platform) {
+    return IsX11(platform) || platform.startsWith("wayland");
+}
+
+template <class Predicate>
+void RemoveIf(Platforms& platforms, Predicate predicate) {
+    platforms.erase(std::remove_if(platforms.begin(), platforms.end(), predicate), platforms.end());
+}
+
 // The user's own list, or what the session offers.
-QList<QByteArray> WantedPlatforms() {
+Platforms WantedPlatforms() {
     const QByteArray given = qgetenv(kPlatforms);
-    if (!given.isEmpty()) {
-        return given.split(';');
-    }
-    QList<QByteArray> platforms;
-    if (!qEnvironmentVariableIsEmpty("DISPLAY")) {
-        platforms += "xcb";
-    }
-    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+    Platforms platforms = given.isEmpty() ? Platforms{"xcb"} : given.split(';');
+    if (given.isEmpty() && !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
         platforms += "wayland";
+    }
+    if (qEnvironmentVariableIsEmpty("DISPLAY")) {
+        RemoveIf(platforms, IsX11);
     }
     return platforms;
 }
 
-QByteArray Platforms(UniqueFd& display) {
-    QList<QByteArray> platforms = WantedPlatforms();
-    const bool wants_x11 = std::any_of(platforms.cbegin(), platforms.cend(), IsX11);
-    if (wants_x11 && (qEnvironmentVariableIsEmpty("DISPLAY") || !DisplayAnswers(display))) {
-        platforms.erase(std::remove_if(platforms.begin(), platforms.end(), IsX11), platforms.end());
+Platforms PlatformsToTry(SessionWatch& watch) {
+    Platforms platforms = WantedPlatforms();
+    if (platforms != Platforms{kOffscreen}) {
+        const bool wants_x11 = std::any_of(platforms.cbegin(), platforms.cend(), IsX11);
+        if (!watch.Begin(wants_x11)) {
+            RemoveIf(platforms, IsX11);
+        }
+        if (!watch.IsOn()) {
+            RemoveIf(platforms, IsOfTheSession);
+        }
     }
-    if (!platforms.contains("offscreen")) {
-        platforms += "offscreen";
+    if (!platforms.contains(kOffscreen)) {
+        platforms += kOffscreen;
     }
-    return platforms.join(';');
+    return platforms;
 }
 
-bool HasPlatformPlugins(const QString& plugins) {
-    return QDir(plugins + "/platforms").exists();
+// Qt's own plug-ins are looked for; the files of others have names that do not follow from theirs.
+bool HasPlugIn(const QString& plugins, const QByteArray& platform) {
+    return !(IsX11(platform) || platform == kOffscreen) ||
+           QFileInfo(plugins + "/platforms/libq" + platform.split(':').first() + ".so").isFile();
 }
 
 // Where the executable really lies, whatever it was called by (proc(5)).
@@ -57,44 +79,115 @@ QString PluginsOfExecutable() {
     return QDir::cleanPath(executable + "/../../Frameworks/plugins");
 }
 
-QString PlatformPluginsElsewhere() {
-    for (const QString& plugins :
-         {PluginsOfExecutable(), QLibraryInfo::location(QLibraryInfo::PluginsPath)}) {
-        if (HasPlatformPlugins(plugins)) {
+QString PluginsOfQt() {
+    return QLibraryInfo::location(QLibraryInfo::PluginsPath);
+}
+
+// The first of `places` that has the platform's plug-in. Result: empty if none has.
+QString PlatformPlugins(const QStringList& places, const QByteArray& platform) {
+    for (const QString& plugins : places) {
+        if (HasPlugIn(plugins, platform)) {
             return plugins + "/platforms";
         }
     }
     return QString();
 }
 
-}  // namespace
+// Environment variables, set for a time.
+class Variables {
+  public:
+    ~Variables() { Restore(); }
 
-GuiEnvironment::GuiEnvironment(const QString& library_path) {
-    Set(kPlatforms, Platforms(display_));
-    if (qEnvironmentVariableIsEmpty(kPlatformPlugins) && !HasPlatformPlugins(library_path)) {
-        Set(kPlatformPlugins, QFile::encodeName(PlatformPluginsElsewhere()));
+    void Set(const char* name, const QByteArray& value) {
+        Remember(name);
+        qputenv(name, value);
     }
-    // The first window waits for the list of fonts, a quarter of the time to the client's start. It
-    // is read while the application object connects to its display.
-    fonts_ = std::thread([] { FcInit(); });
+    void Unset(const char* name) {
+        Remember(name);
+        qunsetenv(name);
+    }
+
+    void Restore() {
+        for (const Variable& variable : former_) {
+            if (variable.was_set) {
+                qputenv(variable.name, variable.value);
+            } else {
+                qunsetenv(variable.name);
+            }
+        }
+        former_.clear();
+    }
+
+  private:
+    struct Variable {
+        const char* name;
+        QByteArray value;
+        bool was_set;
+    };
+
+    void Remember(const char* name) {
+        former_.push_back({name, qgetenv(name), qEnvironmentVariableIsSet(name)});
+    }
+
+    std::vector<Variable> former_;
+};
+
+// A screen of twice the usual resolution shows a window of twice the size, in pixels, and any step
+// between counts.
+void FollowResolution() {
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 
-void GuiEnvironment::Set(const char* name, const QByteArray& value) {
-    former_.push_back({name, qgetenv(name), qEnvironmentVariableIsSet(name)});
-    qputenv(name, value);
+}  // namespace
+
+struct GuiEnvironment::Parts {
+    Variables variables;
+    SessionWatch watch;
+};
+
+GuiEnvironment::GuiEnvironment(const QString& library_path, char** argv) : parts_(new Parts) {
+    FollowResolution();
+    const Without without = PrepareStartOver(argv);
+    RunGuard::Arm();
+    if (without == Without::kDisplay) {
+        // Another one may have been what had to be left out.
+        parts_->variables.Set(kPlatforms, kOffscreen);
+        parts_->variables.Set(
+            kPlatformPlugins,
+            QFile::encodeName(PlatformPlugins({PluginsOfQt(), PluginsOfExecutable()}, kOffscreen)));
+        return;
+    }
+    if (without == Without::kSession) {
+        parts_->variables.Set("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+        parts_->variables.Unset("SESSION_MANAGER");
+    }
+    // A progress bar is drawn without OpenGL, whose libraries take long to load.
+    parts_->variables.Set("QT_XCB_GL_INTEGRATION", "none");
+    const Platforms platforms = PlatformsToTry(parts_->watch);
+    parts_->variables.Set(kPlatforms, platforms.join(';'));
+    if (qEnvironmentVariableIsEmpty(kPlatformPlugins) &&
+        !HasPlugIn(library_path, platforms.first())) {
+        parts_->variables.Set(kPlatformPlugins,
+                              QFile::encodeName(PlatformPlugins(
+                                  {PluginsOfExecutable(), PluginsOfQt()}, platforms.first())));
+    }
+}
+
+GuiEnvironment::~GuiEnvironment() {
+    RunGuard::Disarm();
 }
 
 void GuiEnvironment::Restore() {
-    if (fonts_.joinable()) {
-        fonts_.join();
-    }
-    for (const Variable& variable : former_) {
-        if (variable.was_set) {
-            qputenv(variable.name.constData(), variable.value);
-        } else {
-            qunsetenv(variable.name.constData());
-        }
-    }
-    former_.clear();
-    display_.reset();
+    parts_->watch.ApplicationIsBuilt();
+    // Both would come with the first window, when nobody watches and the variable is gone.
+    QAccessible::isActive();
+    QOpenGLContext::supportsThreadedOpenGL();
+    parts_->watch.End();
+    parts_->variables.Restore();
+}
+
+void GuiEnvironment::GiveDisplayUp() {
+    StartOver(Without::kDisplay);
 }

@@ -1,44 +1,39 @@
 // What the application object needs to come up on any machine and in any session.
 #pragma once
 
-#include <QByteArray>
 #include <QString>
-#include <thread>
-#include <vector>
+#include <memory>
 
-#include "unique-fd.h"
-
-// Stands around the construction of the application object. Qt ends the process when no platform
-// plug-in comes up, and hangs on a display that accepts a connection and never answers; the
-// launcher has work to do without a window. So while this object stands, Qt's list of platforms
-// ends in "offscreen", leaves out an X display that does not answer within a few seconds, and
-// platform plug-ins are found in the bundle of the executable or in Qt's own place where
-// `library_path` has none.
+// Stands around the life of the application object. Qt ends the process when no platform plug-in
+// comes up, breaks when its display goes, and waits without a limit for what a session does not
+// answer; the launcher has work to do without a window. So:
 //
-// It also has the system's list of fonts read meanwhile, on a thread that ends with Restore().
+// - Qt's list of platforms ends in "offscreen" and leaves out an X display that does not take this
+//   user or does not answer within a few seconds, or any where no thread can be had to ask it.
+// - Platform plug-ins are found in the bundle of the executable or in Qt's own place where
+//   `library_path` has none.
+// - What then still ends the process, crashes or hangs leads to a new start of the program, without
+//   the session's bus and manager or without a display. The main thread is guarded by RunGuard.
+// - Windows have the size that the display's resolution asks for.
 //
-// Works through environment variables, which are put back by Restore() or the destructor, so that
-// the client does not inherit them. Main thread, before any other thread. Does nothing on Apple
-// systems.
+// Works through environment variables, which are put back by Restore(), so that the client does not
+// inherit them. Main thread, before any other thread. Does nothing on Apple systems.
 class GuiEnvironment {
   public:
-    // `library_path` is the directory that was given to QCoreApplication::setLibraryPaths.
-    explicit GuiEnvironment(const QString& library_path);
-    ~GuiEnvironment() { Restore(); }
+    // `library_path` is the directory that was given to QCoreApplication::setLibraryPaths, `argv`
+    // what main was given.
+    GuiEnvironment(const QString& library_path, char** argv);
+    ~GuiEnvironment();
     GuiEnvironment(const GuiEnvironment&) = delete;
     GuiEnvironment& operator=(const GuiEnvironment&) = delete;
 
+    // To be called when the application object is built. Starts accessibility, too.
     void Restore();
 
-  private:
-    struct Variable {
-        QByteArray name;
-        QByteArray value;
-        bool was_set;
-    };
-    void Set(const char* name, const QByteArray& value);
+    // Starts the program over without a display if it has one; else returns.
+    void GiveDisplayUp();
 
-    std::vector<Variable> former_;
-    UniqueFd display_;
-    std::thread fonts_;
+  private:
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
 };

@@ -8,6 +8,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QUrl>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
 
 #include "platform/desktop/open-application.h"
 
@@ -56,20 +59,59 @@ class Attributes {
 };
 
 // posix_spawn(3) reports what execve(2) says. The child becomes init's when this process ends.
-bool Start(const QString& path) {
-    QByteArray name = QFile::encodeName(path);
-    char* const arguments[] = {name.data(), nullptr};
+int Spawn(QByteArray path) {
+    char* const arguments[] = {path.data(), nullptr};
     pid_t child = 0;
-    return posix_spawn(&child, name.constData(), FileActions().get(), Attributes().get(), arguments,
-                       environ) == 0;
+    return posix_spawn(&child, path.constData(), FileActions().get(), Attributes().get(), arguments,
+                       environ);
+}
+
+// Makes this process what the child would have been.
+void Become(QByteArray path) {
+    std::fflush(nullptr);
+    setsid();
+    const int nothing = open("/dev/null", O_RDWR);
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        dup2(nothing, stream);
+    }
+    closefrom(STDERR_FILENO + 1);
+    for (int number = 1; number < SIGRTMIN; ++number) {
+        signal(number, SIG_DFL);
+    }
+    sigset_t none;
+    sigemptyset(&none);
+    pthread_sigmask(SIG_SETMASK, &none, nullptr);
+    char* const arguments[] = {path.data(), nullptr};
+    if (chdir("/") == 0) {
+        execve(path.constData(), arguments, environ);
+    }
+}
+
+// The executable that is started at the end.
+QByteArray& PutOff() {
+    static auto* const path = new QByteArray;
+    return *path;
+}
+
+bool Start(const QByteArray& path) {
+    const int error = Spawn(path);
+    if (error != EAGAIN || access(path.constData(), X_OK) != 0) {
+        return error == 0;
+    }
+    PutOff() = path;
+    return std::atexit([] {
+               if (Spawn(PutOff()) == EAGAIN) {
+                   Become(PutOff());
+               }
+           }) == 0;
 }
 
 }  // namespace
 
 bool OpenApplication(const QString& application, const QString& executable) {
-    if (QFileInfo(application).suffix() == "app") {
-        return Start(application + "/" + executable);
+    const QFileInfo info(application);
+    if (info.suffix() == "app") {
+        return Start(QFile::encodeName(info.absoluteFilePath() + "/" + executable));
     }
-    return QFileInfo::exists(application) &&
-           QDesktopServices::openUrl(QUrl::fromLocalFile(application));
+    return info.exists() && QDesktopServices::openUrl(QUrl::fromLocalFile(application));
 }

@@ -5,6 +5,7 @@
 #include <climits>
 
 #include "log.h"
+#include "platform/desktop/run-guard.h"
 #include "ui-client/launcher/mac/mac-service.h"
 #include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/launcher/processing-progress-dialog.h"
@@ -20,7 +21,10 @@ const ustring kLogComponent("launcher_debug");
 
 HandlerThread::HandlerThread() : QThread(nullptr) {}
 
-HandlerThread::~HandlerThread() {}
+HandlerThread::~HandlerThread() {
+    quit();
+    wait(ULONG_MAX);
+}
 
 void HandlerThread::run() {
     exec();
@@ -33,20 +37,47 @@ Worker::Worker() : QObject(nullptr) {
 }
 
 Worker::~Worker() {
+    FinishRun();
     delete m_thread;
     delete m_service;
 }
 
 void Worker::StartThread() {
     m_thread->start(QThread::InheritPriority);
+    if (!m_thread->isRunning()) {
+        delete m_thread;
+        m_thread = nullptr;
+        moveToThread(QThread::currentThread());
+    }
 }
 
 void Worker::QuitThread() {
-    m_thread->quit();
+    if (m_thread != nullptr) {
+        m_thread->quit();
+    }
 }
 
 void Worker::JoinThread() {
-    m_thread->wait(ULONG_MAX);
+    if (m_thread != nullptr) {
+        m_thread->wait(ULONG_MAX);
+    }
+}
+
+bool Worker::HasThread() const {
+    return m_thread != nullptr;
+}
+
+void Worker::FinishRun() {
+    if (m_thread == nullptr || !m_thread->isRunning()) {
+        return;
+    }
+    // An event loop that is told to quit leaves a start that waits in its queue alone. So it is
+    // told by what waits behind the start.
+    QObject* const last = new QObject;
+    last->moveToThread(m_thread);
+    connect(last, SIGNAL(destroyed()), m_thread, SLOT(quit()), Qt::DirectConnection);
+    last->deleteLater();
+    JoinThread();
 }
 
 void Worker::HandleServicce() {
@@ -67,6 +98,10 @@ void Worker::HandleServicce() {
     m_service->PostUpgrade();
     Logger::LogMsg(LOG_LINE(DEBUG, "done\n"));
     emit sigServiceDone();
+    if (RunGuard::IsMainThreadLost()) {
+        Logger::LogMsg(LOG_LINE(WARNING, "the display was lost during the run\n"));
+    }
+    RunGuard::RunIsOver();
 }
 
 Launcher::Launcher() : QObject(nullptr) {
@@ -97,8 +132,16 @@ void Launcher::Run() {
     m_worker->StartThread();
 }
 
+bool Launcher::HasThread() const {
+    return m_worker->HasThread();
+}
+
 void Launcher::Start() {
     emit sigStart();
+    if (!HasThread()) {
+        // The run is over by now, and the event loop that it quits has not begun.
+        QMetaObject::invokeMethod(QCoreApplication::instance(), "quit", Qt::QueuedConnection);
+    }
 }
 
 void Launcher::LaunchDone() {

@@ -8,7 +8,7 @@
 class ProcessingProgressDialog;
 class Service;
 
-// The worker's thread: an event loop until it is told to quit.
+// The worker's thread: an event loop until it is told to quit. The destructor tells it, and waits.
 class HandlerThread : public QThread {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ class HandlerThread : public QThread {
 };
 
 // Drives the upgrade service from start to finish in one slot, on a thread of its own. Made,
-// controlled and deleted on the main thread; deleted only after its thread was joined.
+// controlled and deleted on the main thread; the destructor waits for the run that was started.
 class Worker : public QObject {
     Q_OBJECT
 
@@ -29,11 +29,16 @@ class Worker : public QObject {
     Worker();
     ~Worker() override;
 
+    // Where the system gives no thread, the worker works on the main thread.
     void StartThread();
+    bool HasThread() const;
     // Tells the thread's event loop to end.
     void QuitThread();
     // Waits, without a time limit, until the thread has ended.
     void JoinThread();
+    // Waits until the run that was started is over, even one that has not begun, and ends the
+    // thread.
+    void FinishRun();
 
   signals:
     void sigServiceDone();
@@ -50,7 +55,8 @@ class Worker : public QObject {
     Service* m_service;
 };
 
-// Owns the worker and the window and connects them. Main thread.
+// Owns the worker and the window and connects them. Main thread. The destructor waits for the run
+// that was started.
 class Launcher : public QObject {
     Q_OBJECT
 
@@ -60,6 +66,8 @@ class Launcher : public QObject {
 
     // Starts the worker thread.
     void Run();
+    // Whether there is one; Start() does the whole run on this thread otherwise.
+    bool HasThread() const;
     // Sets the worker to work. It ends with QCoreApplication::quit().
     void Start();
 

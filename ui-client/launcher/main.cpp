@@ -1,15 +1,25 @@
 // Start and end of the process.
+#include <QApplication>
 #include <QDir>
+#include <QEventLoop>
+#include <QSettings>
 #include <QStringList>
+#include <QStyle>
+#include <QStyleFactory>
 #include <QTranslator>
 #include <clocale>
 #include <csignal>
 #include <cstdio>
+#include <memory>
+#include <string>
 
 #include "log.h"
 #include "platform/desktop/gui-environment.h"
+#include "platform/desktop/process-start.h"
 #include "platform/desktop/qtsingleapplication.h"
+#include "platform/desktop/run-guard.h"
 #include "platform/desktop/utf8-names.h"
+#include "platform/files/file-lock.h"
 #include "ui-client/launcher/launcher.h"
 #include "ui-client/launcher/qt-text.h"
 #include "ui-client/launcher/quillmere-service.h"
@@ -49,10 +59,64 @@ void SetUpLanguage(QTranslator& translator, const QString& resource) {
     }
 }
 
+// Neither a window that is closed nor the end of the session ends the run. A session manager waits
+// for its clients one by one, and Launcher's last quit() ends all event loops.
+void StayUntilTheRunIsOver(const QApplication& application) {
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setFallbackSessionManagementEnabled(false);
+    QObject::connect(&application, &QApplication::commitDataRequest, [] { QEventLoop().exec(); });
+}
+
+// The window's ground is always light, so its text must be dark in a dark session too.
+void UseLightColours() {
+    const std::unique_ptr<QStyle> fusion(QStyleFactory::create("Fusion"));
+    QApplication::setPalette(fusion->standardPalette());
+}
+
+// An instance is known by its bundle; this lock is one for all bundles, in the directory that they
+// would change. It also finds the instance that had to do without the application object's lock.
+// Result: false when the same bundle is at work there. Waits for another one.
+bool EnterInstallDirectory(FileLock& lock, const std::string& program) {
+    if (lock.Take() != FileLock::Result::kHeld) {
+        return true;
+    }
+    const std::string holder = lock.HoldersNote();
+    if (holder == program) {
+        return false;
+    }
+    Logger::LogMsg(LOG_LINE(INFO, "waiting for '%s'\n"), holder.c_str());
+    lock.Wait();
+    return true;
+}
+
+// The run, from the first string to the client. Result: that of the event loop.
+int Run(GuiEnvironment& environment) {
+    QTranslator translator(nullptr);
+    const QString resource = ":/" + OrvaLocale::getDefaultLanguage() + ".qm";
+    SetUpLanguage(translator, resource);
+    StrTable::InitStrTable();
+    UseLightColours();
+    Launcher* const launcher = new Launcher;
+    launcher->Run();
+    if (launcher->HasThread()) {
+        // Its objects of static storage duration must be older than the guard, and no other class
+        // that the run uses has any.
+        const QSettings settings(QString(), QSettings::IniFormat);
+        RunGuard::RunBegins();
+    } else {
+        environment.GiveDisplayUp();
+    }
+    launcher->Start();
+    const int result = QApplication::exec();
+    delete launcher;
+    return result;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    const char* const program = argv[0];
+    OpenStandardStreams();
+    MakeHomeAbsolute();
     setlocale(LC_ALL, "");
     // Whoever reads this program's standard output may go; the work goes on.
     std::signal(SIGPIPE, SIG_IGN);
@@ -60,23 +124,17 @@ int main(int argc, char** argv) {
     std::signal(SIGXFSZ, SIG_IGN);
     qInitResources_texts();
     UseUtf8FileNames();
-    GuiEnvironment environment(SetLibraryPath(program));
+    GuiEnvironment environment(SetLibraryPath(argv[0]), argv);
     QtSingleApplication application(argc, argv, true);
     environment.Restore();
     UseUtf8FileNames();
     SetUpLog();
-    if (application.isRunning()) {
+    const std::string program = QCoreApplication::applicationFilePath().toStdString();
+    FileLock lock((Service::GetUserQuillmereInstallPath() + "/launcher.lock").c_str(), program);
+    if (application.isRunning() || !EnterInstallDirectory(lock, program)) {
         Logger::LogMsg(LOG_LINE(DEBUG, "app has already launched, return\n"));
         return 0;
     }
-    QTranslator translator(nullptr);
-    const QString resource = ":/" + OrvaLocale::getDefaultLanguage() + ".qm";
-    SetUpLanguage(translator, resource);
-    StrTable::InitStrTable();
-    Launcher* const launcher = new Launcher;
-    launcher->Run();
-    launcher->Start();
-    const int result = QApplication::exec();
-    delete launcher;
-    return result;
+    StayUntilTheRunIsOver(application);
+    return Run(environment);
 }
