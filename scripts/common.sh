@@ -3,11 +3,14 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-# Debian's packages for building, testing and taking pictures.
-packages=(
+# Debian's packages for building, and those for testing and taking pictures.
+build_packages=(
   g++ cmake ninja-build pkg-config git ca-certificates
-  qtbase5-dev qttools5-dev qttools5-dev-tools libarchive-dev libicu-dev libxcb1-dev
-  libgtest-dev libzstd-dev zstd python3 mount util-linux procps
+  qtbase5-dev qttools5-dev qttools5-dev-tools libarchive-dev libicu-dev libzstd-dev libxcb1-dev
+)
+packages=(
+  "${build_packages[@]}"
+  libgtest-dev zstd python3 mount util-linux procps
   xvfb openbox xdotool x11-utils imagemagick fonts-liberation fonts-dejavu-core fonts-noto-cjk
 )
 
