@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QMap>
 #include <QSettings>
 #include <cstdio>
 #include <cstdlib>
@@ -85,28 +86,35 @@ void RegisterConfig() {
             out << "key_" << line << "=value-" << line * 31 << "\n";
         }
     }
+    // Both have a map from each key to its value in the end.
     Row(
         "config",
         [file = 0]() mutable {
             Config config;
             config.read(SettingsFile(file++ % kSettingsFiles));
-            return config["key_4999"].length();
+            return config.size();
         },
         [file = 0]() mutable {
             const QSettings settings(QString::fromStdString(SettingsFile(file++ % kSettingsFiles)),
                                      QSettings::IniFormat);
-            return settings.value("key_4999").toString().size();
+            QMap<QString, QString> map;
+            for (const QString& key : settings.allKeys()) {
+                map[key] = settings.value(key).toString();
+            }
+            return map.size();
         });
 }
 
-// An existing path of so many components, below the working directory as far as it is deep enough.
+// An existing path of so many components: one above the working directory, or below it.
 std::string PathOfDepth(int depth) {
-    if (depth == 2) {
-        return "/etc/passwd";
+    fs::path path;
+    for (const fs::path& component : fs::current_path()) {
+        path /= component;
+        if (component != "/" && --depth == 0) {
+            return path.string();
+        }
     }
-    const fs::path here = fs::current_path();
-    fs::path path = here;
-    for (auto own = std::distance(here.begin(), here.end()); own <= depth; ++own) {
+    for (; depth > 0; --depth) {
         path /= "directory";
     }
     fs::create_directories(path);

@@ -30,8 +30,9 @@ MICRO = {
     "utf16": ("ICU's UnicodeString", {}),
     "nfc": ("ICU's Normalizer2", {}),
     "log-line": ("spdlog, flushing each line", {"target": 1.05}),
-    "log-stopped": ("spdlog", {"most": 20e-9}),
-    "config": ("QSettings", {"target": 0.20}),
+    "log-stopped-1": ("spdlog", {"most": 20e-9}),
+    "log-stopped": ("spdlog", {}),
+    "config": ("QSettings, all values", {"target": 0.20}),
     "file-info": ("realpath and lstat", {"target": 1.00}),
     "rename": ("the same with 10 files", {"target": 1.10}),
     "text": ("QCoreApplication::translate", {"target": 1.20}),
@@ -226,7 +227,8 @@ class Bench:
         if not wanted:
             return
         times = {}
-        with fresh_directory("micro") as place:
+        # What the disk does is no part of these rows.
+        with tmpfs(WORK / "tmpfs") as usable, fresh_directory("micro", WORK / "tmpfs" if usable else WORK) as place:
             command = [self.tool("bench-micro"), "--benchmark_format=json", "--benchmark_min_time=0.03",
                        f"--benchmark_filter=^({'|'.join(wanted)})"]
             for _ in range(rounds):

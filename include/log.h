@@ -63,6 +63,10 @@ class Logger {
     static void LogMsg2(Level level, const ustring& component, const char* format, va_list args)
         __attribute__((format(printf, 3, 0)));
 
+    // Whether the threshold of `component` lets a message of this level pass: for callers to whom
+    // it costs something to have a message to write.
+    static bool Passes(Level level, const ustring& component);
+
     // Moves "<log_path>" to number 0, and each number up by one, and opens a new file. To be called
     // with the lock held. Result: 0; -1 when the live file cannot be moved or opened anew, and the
     // log ends; -1 too when a number would not fit behind the path, and the log goes on in the old
@@ -89,7 +93,6 @@ class Logger {
     static void EnsureReady();
     static bool HasNowhereToWrite();
     static void FollowRotation();
-    static bool Passes(Level level, const ustring& component);
     static int Write(const char* format, va_list args) __attribute__((format(printf, 1, 0)));
     static void Count(int written);
     static int Reopen();

@@ -18,6 +18,8 @@ class UniqueFd {
 
     int get() const { return fd_; }
     bool valid() const { return fd_ >= 0; }
+    // The descriptor is the caller's from now on.
+    int release() { return std::exchange(fd_, -1); }
 
     void reset(int fd = -1) {
         if (fd_ >= 0) {

@@ -69,34 +69,44 @@ bool TakePlain(const char*& at, ustring& value) {
     return at != start;
 }
 
-// Stores the line's key and value, if it has them. False: malformed.
-bool ParseLine(const char* line, Config& config) {
-    const char* at = SkipSpace(line);
-    const char* const key = at;
-    while (IsKeyCharacter(*at)) {
-        ++at;
-    }
-    const unsigned long key_length = static_cast<unsigned long>(at - key);
-    if (EndsLine(*at)) {
+// Puts lines into a map. What it keeps between them spares blocks of memory, and searches where
+// keys follow each other.
+class Lines {
+  public:
+    explicit Lines(Config& config) : config_(config), last_(config.end()) {}
+
+    // Stores the line's key and value, if it has them. False: malformed.
+    bool Parse(const char* line) {
+        const char* at = SkipSpace(line);
+        const char* const key = at;
+        while (IsKeyCharacter(*at)) {
+            ++at;
+        }
+        if (EndsLine(*at)) {
+            return true;
+        }
+        key_.assign(key, static_cast<unsigned long>(at - key));
+        at = SkipSpace(at);
+        if (*at != '=') {
+            return false;
+        }
+        at = SkipSpace(at + 1);
+        if (!(IsQuote(*at) ? TakeQuoted(at, value_) : TakePlain(at, value_))) {
+            return false;
+        }
+        if (!EndsLine(*SkipSpace(at))) {
+            return false;
+        }
+        last_ = config_.insert_or_assign(last_, key_, value_);
         return true;
     }
-    at = SkipSpace(at);
-    if (*at != '=') {
-        return false;
-    }
-    at = SkipSpace(at + 1);
-    ustring value;
-    if (!(IsQuote(*at) ? TakeQuoted(at, value) : TakePlain(at, value))) {
-        return false;
-    }
-    if (!EndsLine(*SkipSpace(at))) {
-        return false;
-    }
-    ustring name;
-    name.append(key, key_length);
-    config[name] = value;
-    return true;
-}
+
+  private:
+    Config& config_;
+    Config::iterator last_;
+    ustring key_;
+    ustring value_;
+};
 
 }  // namespace
 
@@ -108,9 +118,10 @@ int Config::read(const ustring& path) {
     if (!file) {
         return -1;
     }
+    Lines lines(*this);
     char line[kLineBuffer];
     while (std::fgets(line, sizeof line, file.get()) != nullptr) {
-        if (!ParseLine(line, *this)) {
+        if (!lines.Parse(line)) {
             clear();
             return -1;
         }

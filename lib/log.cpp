@@ -4,8 +4,11 @@
 #include <fcntl.h>
 #include <syslog.h>
 
+#include <clocale>
 #include <cstdlib>
 #include <ctime>
+#include <string>
+#include <string_view>
 
 #include "config.h"
 #include "mutex-guard.h"
@@ -58,14 +61,26 @@ class RotatedName {
     int length_;
 };
 
-int WriteTimeStamp(std::FILE* stream) {
+// The time stamp of a line that is written now; empty on failure. localtime(3) looks at the zone's
+// file each time, which takes longer than all the rest of a line, so a second's stamp is kept while
+// neither second nor zone nor locale changes. Not reentrant, and used inside the lock only.
+const char* TimeStamp() {
+    static std::time_t second = -1;
+    static std::string zone;
+    static std::string locale;
+    static char stamp[512];
     const std::time_t now = std::time(nullptr);
-    char stamp[512] = "";
-    // Not reentrant, and used inside the lock only.
-    if (const std::tm* const local = std::localtime(&now)) {
-        std::strftime(stamp, sizeof stamp, kTimeFormat, local);
+    const char* const variable = std::getenv("TZ");
+    const std::string_view present_zone = variable == nullptr ? "" : variable;
+    const std::string_view present_locale = std::setlocale(LC_TIME, nullptr);
+    if (now != second || zone != present_zone || locale != present_locale) {
+        const std::tm* const local = std::localtime(&now);
+        stamp[local == nullptr ? 0 : std::strftime(stamp, sizeof stamp, kTimeFormat, local)] = 0;
+        second = now;
+        zone = present_zone;
+        locale = present_locale;
     }
-    return std::fprintf(stream, "%s", stamp);
+    return stamp;
 }
 
 }  // namespace
@@ -133,14 +148,12 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
         return;
     }
     EnsureReady();
-    if (HasNowhereToWrite()) {
+    if (HasNowhereToWrite() || !Passes(level, component)) {
         return;
     }
     const MutexGuard guard(log_lock);
     FollowRotation();
-    if (Passes(level, component)) {
-        Count(Write(format, args));
-    }
+    Count(Write(format, args));
 }
 
 // A process that never called Initialize comes to its lock and blocks here, with its first message,
@@ -169,6 +182,8 @@ void Logger::FollowRotation() {
     log_rotated_count_private = *log_rotated_count_shared;
 }
 
+// Without the lock: the thresholds change in Initialize only, which runs while no other thread
+// logs.
 bool Logger::Passes(Level level, const ustring& component) {
     const auto found = log_level.find(component);
     const int threshold = found == log_level.end() ? kDefaultThreshold : found->second;
@@ -184,7 +199,7 @@ int Logger::Write(const char* format, va_list args) {
     if (log_fp == nullptr) {
         return 0;
     }
-    const int stamp = WriteTimeStamp(log_fp);
+    const int stamp = std::fprintf(log_fp, "%s", TimeStamp());
     const int text = std::vfprintf(log_fp, format, args);
     std::fflush(log_fp);
     return stamp < 0 || text < 0 ? -1 : stamp + text;

@@ -1,6 +1,7 @@
 // The string type of everything below the GUI: one text, held in UTF-8 and, on demand, in UTF-16.
 #pragma once
 
+#include <cstring>
 #include <iosfwd>
 #include <string>
 
@@ -195,6 +196,13 @@ class ustring {
     // Whether the text is UTF-8. An empty text is.
     static bool is_valid(ustring const& s);
 
+    // The result holds UTF-8 only and ends at the first NUL.
+    friend ustring operator+(ustring const& left, ustring const& right);
+    friend ustring operator+(ustring const& left, char const* right);
+    friend ustring operator+(ustring const& left, char right);
+    friend ustring operator+(ustring const& left, unsigned short const* right);
+    friend ustring operator+(ustring const& left, unsigned short right);
+
   private:
     friend struct ustring_test_peer;
 
@@ -203,7 +211,12 @@ class ustring {
         char text[2];  // the braces leave the second byte 0
     };
 
+    ustring(char const* head, unsigned long head_length, char const* tail,
+            unsigned long tail_length);
+
     void init();
+    void init(unsigned long need);
+    void check(unsigned long pos) const;
     void realloc_data(unsigned long need);
     void realloc_wdata(unsigned long need) const;
     void clear_data();
@@ -222,7 +235,6 @@ class ustring {
 
 void swap(ustring& a, ustring& b);
 
-// The result holds UTF-8 only and ends at the first NUL.
 ustring operator+(ustring const& left, ustring const& right);
 ustring operator+(ustring const& left, char const* right);
 ustring operator+(ustring const& left, char right);
@@ -232,22 +244,22 @@ ustring operator+(ustring const& left, unsigned short right);
 // Byte order of the UTF-8 texts up to their first NUL: the composed and the decomposed form of one
 // text differ. <= and >= are true for equal texts.
 inline bool operator==(ustring const& left, ustring const& right) {
-    return left.compare(right) == 0;
+    return std::strcmp(left.c_str(), right.c_str()) == 0;
 }
 inline bool operator!=(ustring const& left, ustring const& right) {
-    return left.compare(right) != 0;
+    return std::strcmp(left.c_str(), right.c_str()) != 0;
 }
 inline bool operator<(ustring const& left, ustring const& right) {
-    return left.compare(right) < 0;
+    return std::strcmp(left.c_str(), right.c_str()) < 0;
 }
 inline bool operator>(ustring const& left, ustring const& right) {
-    return left.compare(right) > 0;
+    return std::strcmp(left.c_str(), right.c_str()) > 0;
 }
 inline bool operator<=(ustring const& left, ustring const& right) {
-    return left.compare(right) <= 0;
+    return std::strcmp(left.c_str(), right.c_str()) <= 0;
 }
 inline bool operator>=(ustring const& left, ustring const& right) {
-    return left.compare(right) >= 0;
+    return std::strcmp(left.c_str(), right.c_str()) >= 0;
 }
 
 // Writes the bytes of the UTF-8 text up to its first NUL.

@@ -134,7 +134,7 @@ template <class Action>
 bool ForEachEntry(DIR* dir, Action action) {
     dirent* entry = nullptr;
     while (ReadEntry(dir, entry) == 0 && entry != nullptr) {
-        if (!IsDotOrDotDot(entry->d_name) && action(entry->d_name) != 0) {
+        if (!IsDotOrDotDot(entry->d_name) && action(*entry) != 0) {
             return false;
         }
     }
@@ -380,8 +380,8 @@ int MoveTree(ustring const& from, ustring const& to, bool exact) {
     if (!dir) {
         return -3;
     }
-    const bool moved = ForEachEntry(dir.get(), [&](char const* name) {
-        return FSRename(Child(from, name), Child(to, name), exact);
+    const bool moved = ForEachEntry(dir.get(), [&](dirent const& entry) {
+        return FSRename(Child(from, entry.d_name), Child(to, entry.d_name), exact);
     });
     dir.reset();
     return moved && std::remove(from.c_str()) == 0 ? 0 : -3;
@@ -550,6 +550,59 @@ bool FSIsParentFolder(ustring const& parent, ustring const& child) {
     return child.compare(parent, length) == 0;
 }
 
+namespace {
+
+bool RemoveEntries(DIR* dir, ustring const& path, long room);
+
+DirStream OpenBelow(DIR* parent, char const* name) {
+    UniqueFd file(
+        openat(dirfd(parent), name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    DirStream dir(fdopendir(file.get()));
+    if (dir) {
+        file.release();
+    }
+    return dir;
+}
+
+// Removes the directory `name` of `parent`. `path` and `room` are its own: see RemoveEntry. Result:
+// 0 or -3; 1 if it cannot be opened.
+int RemoveDirectory(DIR* parent, char const* name, ustring const& path, long room) {
+    DirStream dir = OpenBelow(parent, name);
+    if (!dir) {
+        return 1;
+    }
+    if (!RemoveEntries(dir.get(), path, room)) {
+        return -3;
+    }
+    dir.reset();
+    return unlinkat(dirfd(parent), name, AT_REMOVEDIR) == 0 ? 0 : -3;
+}
+
+// Removes an entry of `dir`, which lies at `path`. All that FSRemove has to know of it is its type,
+// and the directory tells that; GetFileInfo has lines for the log besides, where they are wanted.
+// So an entry is looked at only then, or when it does not go at once, or when its path may be
+// longer than GetFileInfo can do with: there is `room` for so many bytes behind `path`. Result: 0,
+// or what FSRemove gives for its path.
+int RemoveEntry(DIR* dir, ustring const& path, long room, dirent const& entry) {
+    room -= static_cast<long>(std::strlen(entry.d_name)) + 1;
+    int result = 1;
+    if (room > 0 && !Logger::Passes(Logger::LEVEL_DEBUG, kLogComponent)) {
+        if (entry.d_type == DT_DIR) {
+            result = RemoveDirectory(dir, entry.d_name, Child(path, entry.d_name), room);
+        } else if (entry.d_type != DT_UNKNOWN) {
+            result = unlinkat(dirfd(dir), entry.d_name, 0) == 0 ? 0 : 1;
+        }
+    }
+    return result <= 0 ? result : FSRemove(Child(path, entry.d_name), false);
+}
+
+bool RemoveEntries(DIR* dir, ustring const& path, long room) {
+    return ForEachEntry(dir,
+                        [&](dirent const& entry) { return RemoveEntry(dir, path, room, entry); });
+}
+
+}  // namespace
+
 int FSRemove(ustring const& path, bool) {
     if (path.empty()) {
         return -1;
@@ -562,13 +615,12 @@ int FSRemove(ustring const& path, bool) {
         return 0;
     }
     if (info.type == FS_TYPE_DIR) {
-        DirStream dir(opendir(path.c_str()));
+        const DirStream dir(opendir(path.c_str()));
         if (!dir) {
             return 0;
         }
-        const bool removed = ForEachEntry(
-            dir.get(), [&](char const* name) { return FSRemove(Child(path, name), false); });
-        if (!removed) {
+        const unsigned long length = std::max(path.length(), info.path.length());
+        if (!RemoveEntries(dir.get(), path, kPathBuffer - static_cast<long>(length))) {
             return -3;
         }
     }

@@ -43,9 +43,13 @@ unsigned long Need(unsigned long length, unsigned long extra) {
 }
 
 // Exact fit with hysteresis: a block with spare room of up to its half stays as it is.
+bool Fits(unsigned long capacity, unsigned long need) {
+    return capacity >= need && capacity / 2 <= need;
+}
+
 template <class Unit>
 void Fit(Unit*& block, unsigned long& capacity, unsigned long need) {
-    if (capacity >= need && capacity / 2 <= need) {
+    if (Fits(capacity, need)) {
         return;
     }
     if (need > ustring::npos / sizeof(Unit)) {
@@ -67,7 +71,7 @@ void AppendUnits(Unit*& block, unsigned long& length, unsigned long& capacity, U
     const unsigned long available = self ? std::min(length, n) : LengthUpTo(s, n);
     Fit(block, capacity, Need(length, available));
     Unit const* const source = self ? block : s;
-    const unsigned long copied = LengthUpTo(source, available);
+    const unsigned long copied = self ? LengthUpTo(source, available) : available;
     std::memcpy(block + length, source, copied * sizeof(Unit));
     length += copied;
     block[length] = 0;
@@ -84,6 +88,25 @@ void AppendFill(Unit*& block, unsigned long& length, unsigned long& capacity, Un
 
 void Warn(char const* what, UErrorCode status, int line) {
     std::cerr << what << static_cast<int>(status) << " at line " << line << std::endl;
+}
+
+// Without a branch for each byte, so that the compiler looks at many at once.
+bool IsAscii(char const* s, unsigned long length) {
+    unsigned char bits = 0;
+    for (unsigned long i = 0; i < length; ++i) {
+        bits = static_cast<unsigned char>(bits | s[i]);
+    }
+    return bits < 0x80;
+}
+
+// Result: how far both are equal, in whole machine words.
+unsigned long EqualWords(char const* a, char const* b, unsigned long length) {
+    constexpr unsigned long kWord = 8;
+    unsigned long equal = 0;
+    while (equal + kWord <= length && std::memcmp(a + equal, b + equal, kWord) == 0) {
+        equal += kWord;
+    }
+    return equal;
 }
 
 // A test of the text from one of its offsets.
@@ -162,11 +185,16 @@ int str_case_cmp(char const* a, char const* b) {
 }  // namespace
 
 void ustring::init() {
+    init(kFirstCapacity);
+}
+
+// The block of the UTF-8 text is as if it had been fitted to `need` afterwards.
+void ustring::init(unsigned long need) {
     data = nullptr;
     wdata = nullptr;
     data_capacity = 0;
     wdata_capacity = 0;
-    realloc_data(kFirstCapacity);
+    realloc_data(Fits(kFirstCapacity, need) ? kFirstCapacity : need);
     try {
         realloc_wdata(kFirstCapacity);
     } catch (std::bad_alloc const&) {
@@ -176,27 +204,29 @@ void ustring::init() {
     clear();
 }
 
-// The other constructors delegate to this one, so that the destructor runs when filling them
-// throws.
+// Those that may throw when they fill the object delegate to this one, so that the destructor runs.
 ustring::ustring() {
     init();
 }
 
-ustring::ustring(ustring const& other) : ustring() {
-    assign(other, 0, npos);
+ustring::ustring(char const* head, unsigned long head_length, char const* tail,
+                 unsigned long tail_length) {
+    init(Need(head_length, tail_length));
+    std::memcpy(data, head, head_length);
+    std::memcpy(data + head_length, tail, tail_length);
+    data_length = head_length + tail_length;
+    data[data_length] = 0;
 }
 
-ustring::ustring(char const* utf8) : ustring() {
-    assign(utf8);
-}
+ustring::ustring(ustring const& other) : ustring(other.data) {}
+
+ustring::ustring(char const* utf8) : ustring(utf8, std::strlen(utf8), "", 0) {}
 
 ustring::ustring(unsigned short const* utf16) : ustring() {
     assign(utf16);
 }
 
-ustring::ustring(std::string const& utf8) : ustring() {
-    append(utf8, 0, npos);
-}
+ustring::ustring(std::string const& utf8) : ustring(utf8.c_str()) {}
 
 ustring::ustring(char c) : ustring() {
     append(c, 1);
@@ -253,12 +283,14 @@ void swap(ustring& a, ustring& b) {
 }
 
 ustring ustring::substr(unsigned long pos, unsigned long n) const {
+    check(pos);
+    return ustring(data + pos, LengthUpTo(data + pos, n), "", 0);
+}
+
+void ustring::check(unsigned long pos) const {
     if (pos > data_length) {
         throw std::out_of_range("substr");
     }
-    ustring result;
-    result.append(data + pos, std::min(n, data_length));
-    return result;
 }
 
 ustring& ustring::assign(ustring const& s, unsigned long pos, unsigned long n) {
@@ -344,8 +376,12 @@ ustring& ustring::append(char c, unsigned long n) {
 }
 
 ustring& ustring::append(ustring const& s, unsigned long pos, unsigned long n) {
-    const ustring part = s.substr(pos, n);
-    return append(part.data);
+    if (&s == this) {
+        const ustring part = substr(pos, n);
+        return append(part.data);
+    }
+    s.check(pos);
+    return append(s.data + pos, n);
 }
 
 ustring& ustring::append(std::string const& s, unsigned long pos, unsigned long n) {
@@ -384,6 +420,13 @@ void ustring::build_wdata() const {
 }
 
 int ustring::convert_from_data() const {
+    const unsigned long bytes = std::strlen(data);
+    if (IsAscii(data, bytes)) {
+        realloc_wdata(bytes + 1);
+        std::copy_n(data, bytes + 1, wdata);
+        wdata_length = bytes;
+        return 0;
+    }
     int32_t length = 0;
     UErrorCode status = U_ZERO_ERROR;
     u_strFromUTF8(nullptr, 0, &length, data, -1, &status);
@@ -401,6 +444,16 @@ int ustring::convert_from_data() const {
 }
 
 int ustring::convert_from_wdata() {
+    unsigned long ascii = 0;
+    while (wdata[ascii] != 0 && wdata[ascii] < 0x80) {
+        ++ascii;
+    }
+    if (wdata[ascii] == 0) {
+        realloc_data(ascii + 1);
+        std::copy_n(wdata, ascii + 1, data);
+        data_length = ascii;
+        return 0;
+    }
     int32_t length = 0;
     UErrorCode status = U_ZERO_ERROR;
     u_strToUTF8(nullptr, 0, &length, wdata, -1, &status);
@@ -428,7 +481,11 @@ bool ustring::is_valid(ustring const& s) {
 }
 
 unsigned long ustring::find(char const* needle, unsigned long pos) const {
-    return SearchForward(*this, pos, StartsWith{needle});
+    if (pos >= data_length || data[pos] == 0) {
+        return npos;
+    }
+    char const* const found = std::strstr(data + pos, needle);
+    return found == nullptr ? npos : static_cast<unsigned long>(found - data);
 }
 
 unsigned long ustring::rfind(char const* needle, unsigned long pos) const {
@@ -502,7 +559,11 @@ int ustring::compare(ustring const& other) const {
 }
 
 int ustring::compare(ustring const& other, unsigned long n) const {
-    for (unsigned long i = 0; i < n; ++i) {
+    unsigned long i = EqualWords(data, other.data, std::min({n, data_length, other.data_length}));
+    if (std::memchr(data, 0, i) != nullptr) {
+        return 0;
+    }
+    for (; i < n; ++i) {
         const int difference = Difference(data[i], other.data[i]);
         if (difference != 0 || data[i] == 0) {
             return difference;
@@ -519,6 +580,13 @@ ustring ustring::normalize(ustring const& source, normalization_form form) {
     static constexpr UNormalization2Mode kModes[] = {UNORM2_COMPOSE, UNORM2_DECOMPOSE};
     ustring result;
     if (source.empty()) {
+        return result;
+    }
+    // ASCII is normalised as it stands (Unicode Standard Annex #15).
+    if (IsAscii(source.data, std::strlen(source.data))) {
+        source.c_str_utf16();
+        result = source;
+        result.c_str_utf16();
         return result;
     }
     UErrorCode status = U_ZERO_ERROR;
@@ -546,39 +614,25 @@ ustring ustring::normalize(ustring const& source, normalization_form form) {
     return result;
 }
 
-namespace {
-
-// The text of a temporary, which a copy ends at its first NUL and takes as UTF-8 alone.
-template <class Right>
-ustring Concatenate(ustring const& left, Right const& right) {
-    ustring both;
-    both.assign(left, 0, ustring::npos);
-    both += right;
-    ustring result;
-    result.assign(both, 0, ustring::npos);
-    return result;
-}
-
-}  // namespace
-
 ustring operator+(ustring const& left, ustring const& right) {
-    return Concatenate(left, right);
+    return left + right.data;
 }
 
 ustring operator+(ustring const& left, char const* right) {
-    return Concatenate(left, right);
+    return ustring(left.data, std::strlen(left.data), right, std::strlen(right));
 }
 
 ustring operator+(ustring const& left, char right) {
-    return Concatenate(left, right);
+    return left + ustring::one_byte{right}.text;
 }
 
+// A temporary has both views; its copy is UTF-8 alone.
 ustring operator+(ustring const& left, unsigned short const* right) {
-    return Concatenate(left, right);
+    return ustring(left).append(right).data;
 }
 
 ustring operator+(ustring const& left, unsigned short right) {
-    return Concatenate(left, right);
+    return ustring(left).append(right, 1).data;
 }
 
 std::ostream& operator<<(std::ostream& out, ustring const& s) {

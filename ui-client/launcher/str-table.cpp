@@ -23,8 +23,11 @@ void StrTable::InitStrTable() {
 
 QString StrTable::LoadStr(int id) {
     QString text = QCoreApplication::translate(kContext, stab[id], nullptr, -1);
-    text.replace(QLatin1String("\\n"), QLatin1String("\n"), Qt::CaseSensitive);
-    text.replace(QLatin1String("\\t"), QLatin1String("\t"), Qt::CaseSensitive);
+    // Most texts have neither, and one look is cheaper than two replacements.
+    if (text.contains(QLatin1Char('\\'))) {
+        text.replace(QLatin1String("\\n"), QLatin1String("\n"), Qt::CaseSensitive);
+        text.replace(QLatin1String("\\t"), QLatin1String("\t"), Qt::CaseSensitive);
+    }
     return text;
 }
 
