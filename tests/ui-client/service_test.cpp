@@ -1,23 +1,20 @@
-// The transaction branch by branch, the decision, the recursive copy, and the extractor on hostile
-// archives.
-#include <archive.h>
-#include <archive_entry.h>
-#include <gtest/gtest.h>
-#include <sys/stat.h>
+// The transaction branch by branch, the decision, the client's end, a whole run, and the recursive
+// copy.
+#include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
-#include <QObject>
+#include <QElapsedTimer>
+#include <algorithm>
 #include <functional>
+#include <regex>
 
-#include "log.h"
-#include "temp_dir.h"
-#include "ui-client/launcher/extractor.h"
+#include "ui-client/launcher/launcher.h"
 #include "ui-client/launcher/mac/mac-service.h"
-#include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/launcher/package-info.h"
 #include "ui-client/launcher/str-table.h"
+#include "ui-client/service_fixture.h"
 
 namespace fs = std::filesystem;
 
@@ -25,123 +22,72 @@ namespace {
 
 constexpr int kNever = 99;
 constexpr char kExecutable[] = "/Contents/MacOS/quillmere-ui";
+constexpr char kInfo[] = "/Contents/Resources/INFO";
 
-// A home of the test's own, and a log with everything in it.
-class ServiceTest : public testing::Test {
-  protected:
-    ServiceTest() {
-        qputenv("HOME", home.path().c_str());
-        WriteFile(home / "levels", "service_debug=7\nextractor_debug=7\n");
-        Logger::Initialize(Logger::TYPE_FILE, (home / "log").c_str(), (home / "levels").c_str(),
-                           50);
-    }
-    ~ServiceTest() override { Logger::Destroy(); }
-
-    std::string App() const { return home / ".Quillmere/Quillmere.app"; }
-    int LogLines(const std::string& part) const {
-        const std::string log = ReadFile(home / "log");
-        int count = 0;
-        for (std::size_t at = log.find(part); at != std::string::npos;
-             at = log.find(part, at + 1)) {
-            ++count;
-        }
-        return count;
-    }
-
-    const TempDir home;
-};
+std::string App() {
+    return Service::GetUserQuillmereAppInstallPath().c_str();
+}
 
 // The failures come from here; all else is real.
 class FakeExtraction : public MacService {
   public:
     explicit FakeExtraction(const std::function<int()>& extract) : extract_(extract) {}
     int ExtractPackage() override { return extract_(); }
-    void StopService() override { ++stops; }
+    void StopService() override { stops += fs::exists(App() + kExecutable) ? 1 : 100; }
     bool Decide(const char* source, const char* target) {
         source_version.build_version = source;
         target_version.build_version = target;
         return IsNeedUpgrade();
     }
-    int stops = 0;
+    int stops = 0;  // with the copy still in its place
 
   private:
     std::function<int()> extract_;
 };
 
-using ExtractorTest = ServiceTest;
-
-struct Entry {
-    std::string path;
-    std::string content;
-    mode_t mode = S_IFREG | 0644;
-    std::string link{};
-};
-
-void MakeArchive(const std::string& path, const std::vector<Entry>& entries) {
-    archive* const writer = archive_write_new();
-    archive_write_set_format_pax_restricted(writer);
-    archive_write_open_filename(writer, path.c_str());
-    for (const Entry& entry : entries) {
-        archive_entry* const header = archive_entry_new();
-        archive_entry_set_pathname(header, entry.path.c_str());
-        archive_entry_set_mode(header, entry.mode);
-        archive_entry_set_size(header, static_cast<la_int64_t>(entry.content.size()));
-        if (!entry.link.empty()) {
-            archive_entry_set_symlink(header, entry.link.c_str());
-        }
-        archive_write_header(writer, header);
-        archive_write_data(writer, entry.content.data(), entry.content.size());
-        archive_entry_free(header);
+// Result: what `action` returns when another user does it.
+int AsNobody(const std::function<int()>& action) {
+    const pid_t child = fork();
+    if (child == 0) {
+        _exit(setuid(65534) != 0 ? 99 : action());
     }
-    archive_write_close(writer);
-    archive_write_free(writer);
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WEXITSTATUS(status);
 }
 
 }  // namespace
 
 TEST_F(ServiceTest, TransactionByItsBranches) {
     const struct {
-        bool old_copy;
-        int taken;       // backup names 0 to taken - 1 stand full
+        int taken;       // backup names 0 to taken - 1 stand full; -1 for no old copy either
         int extraction;  // its result; kNever where it must not be tried
         int result;
-        int left;          // backups
-        const char* copy;  // content of APP/mark
         const char* log;
     } cases[] = {
-        {false, 0, 0, 0, 0, "new", "user installation is ready, removing backup app\n"},
-        {false, 0, -1, -1, 0, "new",
-         "Failed to extract package, and no old installation to rollback\n"},
-        {false, 1, 0, 0, 0, "new", "user installation is ready"},
-        {true, 0, 0, 0, 0, "new", "user installation is ready"},
-        {true, 3, 0, 0, 0, "new", "user installation is ready"},
-        {true, 0, 7, -1, 0, "old", "Failed to extract package, rollback to old installation\n"},
-        {true, 2, -1, -1, 2, "old", "Failed to extract package, rollback to old installation\n"},
-        {true, 10, kNever, -1, 10, "old", "Quillmere.app_tmp9' at max retries, exiting\n"},
+        {-1, 0, 0, "user installation is ready, removing backup app\n"},
+        {-1, -1, -1, "Failed to extract package, and no old installation to rollback\n"},
+        {3, 0, 0, "user installation is ready, removing backup app\n"},
+        {2, 7, -1, "Failed to extract package, rollback to old installation\n"},
+        {10, kNever, -1, "Quillmere.app_tmp9' at max retries, exiting\n"},
     };
     for (const auto& branch : cases) {
-        SCOPED_TRACE(std::to_string(&branch - cases) + ": " + branch.log);
+        SCOPED_TRACE(branch.log);
         fs::remove_all(home / ".Quillmere");
-        fs::resize_file(home / "log", 0);
-        if (branch.old_copy) {
-            WriteFile(App() + "/mark", "old");
-        }
-        for (int index = 0; index < branch.taken; ++index) {
-            WriteFile(App() + "_tmp" + (index == 0 ? "" : std::to_string(index)) + "/full", "");
+        fs::resize_file(LogPath(), 0);
+        for (int index = -1; index < branch.taken; ++index) {
+            const std::string number = index > 0 ? std::to_string(index) : "";
+            WriteFile(App() + (index < 0 ? "/mark" : "_tmp" + number + "/mark"), "old");
         }
         FakeExtraction service([&] {
             EXPECT_NE(branch.extraction, kNever) << "the package was opened";
-            EXPECT_FALSE(fs::exists(App() + "/mark")) << "the old copy is written into";
-            WriteFile(App() + "/mark", "new");
+            EXPECT_FALSE(branch.taken >= 0 && fs::exists(App())) << "the old copy is written into";
             return branch.extraction;
         });
         EXPECT_EQ(service.PrepareUserEnv(), branch.result);
-        EXPECT_EQ(ReadFile(App() + "/mark"), branch.copy);
-        EXPECT_EQ(LogLines("Quillmere.app' -> '"),
-                  branch.old_copy ? branch.taken + branch.taken / 10 : 0);
+        EXPECT_EQ(LogLines("failed to backup app from '"),
+                  std::max(branch.taken, 0) + branch.taken / 10);
         EXPECT_EQ(LogLines(branch.log), 1);
-        const fs::directory_iterator user(home / ".Quillmere");
-        EXPECT_EQ(std::distance(begin(user), end(user)), 1 + branch.left);
     }
 }
 
@@ -168,154 +114,118 @@ TEST_F(ServiceTest, DecisionAndStop) {
     }
 }
 
+// A home behind a link, a copy without its executable, a bundle of which nothing can be read.
+TEST_F(ServiceTest, RunByItsLog) {
+    fs::create_directory(home / "home");
+    fs::create_directory_symlink(home / "home", home / "link");
+    qputenv("HOME", (home / "link").c_str());
+    WriteFile(
+        App() + kInfo,
+        "[Version]\nmajor_version=1\nminor_version=2\nbuild_version=3\nicon_overlay_version=4\n");
+    WriteFile((home / "link/.Quillmere/app/aged"), "");
+    Worker worker;
+    QMetaObject::invokeMethod(&worker, "HandleServicce", Qt::DirectConnection);
+    const std::string log = std::regex_replace(ReadFile(LogPath()), std::regex("\\([0-9]+\\)"), "");
+    std::size_t at = 0;
+    for (const char* const line :
+         {"[DEBUG] launcher: running\n", "[INFO] quillmere-service: target_version = (, , , )\n",
+          "[INFO] quillmere-service: source_version = (1, 2, 3, 4)\n",
+          "[DEBUG] mac/mac-service: Source version: ('3', '4')\n",
+          "[DEBUG] mac/mac-service: Target version: ('', '')\n",
+          "[DEBUG] mac/mac-service: source version = 3, target version = 0\n",
+          "[INFO] quillmere-service: extract package: '", "[DEBUG] extractor: decompress from '",
+          "[ERROR] extractor: archive_read_open_filename failed: '",
+          "[ERROR] extractor: Failed to calculate total file numbers, ret: -1\n",
+          "[ERROR] quillmere-service: Failed to extract package, rollback to old",
+          "[ERROR] launcher: Failed to upgrade package\n",
+          "[INFO] quillmere-service: removing aged app folder ",
+          "[ERROR] mac/mac-service: Cannot unregister bundle, ",
+          "[ERROR] mac/mac-service: Failed to launch Quillmere UI\n", "[DEBUG] launcher: done\n"}) {
+        const std::size_t found = log.find(line, at);
+        EXPECT_NE(found, std::string::npos) << line << "is not behind " << log.substr(0, at);
+        at = std::min(found, log.size());
+    }
+    EXPECT_TRUE(fs::exists(App() + kInfo));
+    EXPECT_FALSE(fs::exists(home / "link/.Quillmere/app"));
+}
+
+TEST_F(ServiceTest, StopsTheClientAndNotItself) {
+    const auto former = signal(SIGCHLD, SIG_IGN);  // a child that ends is gone
+    const pid_t client = fork();
+    if (client == 0) {
+        pause();
+        _exit(0);
+    }
+    for (const pid_t pid : {client, getpid()}) {
+        WriteFile(home / ".Quillmere/ui.pid", "pid=" + std::to_string(pid) + "\n");
+        QElapsedTimer timer;
+        timer.start();
+        MacService().StopService();
+        EXPECT_LT(timer.elapsed(), 3000);
+        EXPECT_EQ(kill(pid, 0), pid == client ? -1 : 0);
+    }
+    signal(SIGCHLD, former);
+}
+
 TEST_F(ServiceTest, PathsOfTheLayout) {
     const std::string directory = QCoreApplication::applicationDirPath().toStdString();
     const std::string root = fs::path(directory).parent_path().parent_path();
-    EXPECT_EQ(Service::GetRootQuillmereInstallPath().c_str(), root);
     EXPECT_EQ(Service::GetRootQuillmereResourceInstallPath().c_str(), root + "/Contents/Resources");
-    EXPECT_EQ(Service::GetUserQuillmereAppInstallPath().c_str(), App());
     EXPECT_EQ(Service::GetUserQuillmereDataInstallPath().c_str(), home / ".Quillmere/data");
     EXPECT_EQ(MacService::GetInstace(), MacService::GetInstace());
     EXPECT_EQ(PackageInfo().package_file.c_str(), directory + "/package/quillmere.qpk");
-    EXPECT_EQ(PackageInfo().log_dir.c_str(), home / ".Quillmere_log");
 }
 
 TEST_F(ServiceTest, CopiesTrees) {
-    const std::string from = home / "from";
-    WriteFile(from + "/a/b/deep", "deep");
-    WriteFile(from + "/with\nnewline", "line");
-    fs::create_directory(from + "/empty");
-    fs::create_symlink("a/b/deep", from + "/link");
     FakeExtraction service([] { return 0; });
-    EXPECT_EQ(service.FSCopyPath(from.c_str(), (home / "to/new").c_str()), 0);
+    const auto copy = [&](const char* from, const char* to) {
+        return service.FSCopyPath((home / from).c_str(), (home / to).c_str());
+    };
+    WriteFile(home / "from/a/b/deep", "deep");
+    WriteFile(home / "from/with\nnewline", "line");
+    fs::create_directory(home / "from/empty");
+    fs::create_symlink("a/b/deep", home / "from/link");
+    EXPECT_EQ(copy("from", "to/new"), 0);
     EXPECT_EQ(ReadFile(home / "to/new/a/b/deep"), "deep");
     EXPECT_EQ(ReadFile(home / "to/new/with\nnewline"), "line");
     EXPECT_TRUE(fs::is_empty(home / "to/new/empty"));
     EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(home / "to/new/link")));
-    EXPECT_EQ(service.FSCopyPath((from + "/a/b/deep").c_str(), (home / "plain").c_str()), 0);
+    EXPECT_EQ(copy("from/a/b/deep", "plain"), 0);
     EXPECT_EQ(ReadFile(home / "plain"), "deep");
-
     // One line on each level of the way up.
-    fs::create_symlink("nowhere", from + "/a/b/dangling");
-    EXPECT_EQ(service.FSCopyPath(from.c_str(), (home / "broken").c_str()), -1);
+    fs::create_symlink("nowhere", home / "from/a/b/dangling");
+    EXPECT_EQ(copy("from", "broken"), -1);
     EXPECT_EQ(LogLines("FSCopyPath: failed to copy from"), 3);
-    EXPECT_EQ(service.FSCopyPath((home / "none").c_str(), (home / "x").c_str()), -1);
+    EXPECT_EQ(copy("none", "x"), -1);
     EXPECT_EQ(LogLines("FSCopyPath: source path '"), 1);
-    EXPECT_FALSE(fs::exists(home / "x"));
-    EXPECT_EQ(service.FSCopyPath("", (home / "x").c_str()), -1);
-    EXPECT_EQ(LogLines("FSCopyPath: failed to stat source ''"), 1);
-    EXPECT_EQ(service.FSCopyPath(from.c_str(), (home / "plain").c_str()), -1);
+    EXPECT_EQ(copy("from", "plain"), -1);
     EXPECT_EQ(LogLines("FSCopyPath: failed to create dest folder"), 1);
+    EXPECT_EQ(service.FSCopyPath("", "x"), -1);
+    EXPECT_EQ(LogLines("FSCopyPath: failed to stat source ''"), 1);
 }
 
-// A directory that cannot be opened is left empty, and is no failure.
-TEST_F(ServiceTest, CopiesWhatCanBeRead) {
+TEST_F(ServiceTest, WithoutPermission) {
     if (getuid() != 0) {
         GTEST_SKIP() << "needs root to become another user";
     }
+    FakeExtraction service([] { return kNever; });
     WriteFile(home / "from/closed/file", "closed");
     WriteFile(home / "from/open", "open");
     fs::permissions(home / "from/closed", fs::perms::none);
     fs::permissions(home.path(), fs::perms::all);
-    const pid_t child = fork();
-    if (child == 0) {
-        FakeExtraction service([] { return 0; });
-        _exit(setuid(65534) != 0
-                  ? 1
-                  : service.FSCopyPath((home / "from").c_str(), (home / "to").c_str()));
-    }
-    int status = -1;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
+    // A directory that cannot be opened is left empty, and is no failure.
+    EXPECT_EQ(AsNobody([&] {
+                  return service.FSCopyPath((home / "from").c_str(), (home / "to").c_str());
+              }),
+              0);
     EXPECT_EQ(ReadFile(home / "to/open"), "open");
     EXPECT_TRUE(fs::is_empty(home / "to/closed"));
     EXPECT_EQ(LogLines("[WARNING] quillmere-service("), 1);
-}
-
-TEST_F(ExtractorTest, WritesReportsAndCounts) {
-    const std::string outside = home / "outside";
-    WriteFile(outside, "outside");
-    fs::create_directory(home / "dest");
-    fs::create_symlink(outside, home / "dest/replaced");
-    MakeArchive(home / "archive", {{"dir/", "", S_IFDIR | 0755},
-                                   {"dir/run", "#!", S_IFREG | 0755},
-                                   {"no/parents/here", "x"},
-                                   {"replaced", "inside"},
-                                   {"link", "", S_IFLNK | 0777, "dir/run"}});
-    std::vector<std::pair<int, int>> reports;
-    QObject receiver;
-    QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &receiver,
-                     [&](int total, int current) { reports.emplace_back(total, current); });
-    Extractor extractor;
-    extractor.m_source = (home / "archive").c_str();
-    extractor.m_dest = (home / "dest").c_str();
-    EXPECT_EQ(extractor.Count(), 5);
-    EXPECT_EQ(extractor.Extract(), 0);
-    EXPECT_EQ(reports, (std::vector<std::pair<int, int>>{{5, 1}, {5, 2}, {5, 3}, {5, 4}, {5, 5}}));
-    EXPECT_EQ(ReadFile(home / "dest/no/parents/here"), "x");
-    EXPECT_EQ(ReadFile(home / "dest/link"), "#!");
-    EXPECT_EQ(access((home / "dest/dir/run").c_str(), X_OK), 0);
-    EXPECT_EQ(ReadFile(outside), "outside") << "a link was written through";
-    EXPECT_EQ(ReadFile(home / "dest/replaced"), "inside");
-    testing::internal::CaptureStdout();
-    EXPECT_EQ(extractor.List(), 0);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(),
-              "dir/\ndir/run\nno/parents/here\nreplaced\nlink\n");
-}
-
-TEST_F(ExtractorTest, RefusesWhatItMust) {
-    MakeArchive(home / "empty", {});
-    MakeArchive(home / "climbs", {{"good", "x"}, {"../climbed", "x"}});
-    MakeArchive(home / "cut",
-                {{"good", std::string(40000, 'x')}, {"lost", std::string(40000, 'y')}});
-    fs::resize_file(home / "cut", 60000);
-    const struct {
-        std::string source;
-        std::string dest;
-        int count;
-        const char* log;
-    } cases[] = {
-        {"", home / "dest", -1, ": Invalid Argument\n"},
-        {home / "empty", "", -1, ": Invalid Argument\n"},
-        {home / "none", home / "dest", -1, ": Failed to calculate total file numbers, ret: -1\n"},
-        {home / "empty", home / "dest", 0, ": Failed to calculate total file numbers, ret: 0\n"},
-        {home / "climbs", home / "dest", 2, ": archive_read_extract2 failed: '"},
-        {home / "cut", home / "dest", 2, ": archive_read_extract2 failed: '"},
-    };
-    for (const auto& bad : cases) {
-        SCOPED_TRACE(bad.source);
-        fs::remove_all(home / "dest");
-        fs::create_directory(home / "dest");
-        Extractor extractor;
-        extractor.m_source = bad.source.c_str();
-        extractor.m_dest = bad.dest.c_str();
-        EXPECT_EQ(extractor.Count(), bad.count);
-        fs::resize_file(home / "log", 0);
-        EXPECT_EQ(extractor.Extract(), -1);
-        EXPECT_EQ(LogLines(bad.log), 1) << ReadFile(home / "log");
-        EXPECT_FALSE(fs::exists(home / "climbed"));
-        // What was written before the failure stays.
-        EXPECT_EQ(fs::exists(home / "dest/good"), bad.count == 2);
-    }
-}
-
-TEST_F(ExtractorTest, PoursOneEntry) {
-    MakeArchive(home / "archive", {{"one", std::string(100000, '1')}});
-    archive* const reader = archive_read_new();
-    archive_read_support_format_all(reader);
-    ASSERT_EQ(archive_read_open_filename(reader, (home / "archive").c_str(), 10240), ARCHIVE_OK);
-    archive_entry* entry = nullptr;
-    ASSERT_EQ(archive_read_next_header(reader, &entry), ARCHIVE_OK);
-    archive* const writer = archive_write_disk_new();
-    archive_entry_set_pathname(entry, (home / "poured").c_str());
-    ASSERT_EQ(archive_write_header(writer, entry), ARCHIVE_OK);
-    Extractor extractor;
-    EXPECT_EQ(extractor.copy_data(nullptr, writer), -1);
-    EXPECT_EQ(extractor.copy_data(reader, nullptr), -1);
-    EXPECT_EQ(extractor.copy_data(reader, writer), 0);
-    archive_read_free(reader);
-    archive_write_free(writer);
-    EXPECT_EQ(ReadFile(home / "poured"), std::string(100000, '1'));
+    // Where nothing can be seen, there may be a copy.
+    WriteFile(App() + "/mark", "old");
+    fs::permissions(home / ".Quillmere", fs::perms::none);
+    EXPECT_EQ(AsNobody([&] { return -service.PrepareUserEnv(); }), 1);
+    EXPECT_EQ(LogLines("Quillmere.app_tmp9' at max retries, exiting\n"), 1);
 }
 
 int main(int argc, char** argv) {

@@ -5,6 +5,7 @@
 #include <archive_entry.h>
 
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -19,6 +20,7 @@
 namespace {
 
 constexpr std::size_t kBlockSize = 10240;
+constexpr std::size_t kLongestPath = PATH_MAX - 8;  // a backup's name is some bytes longer
 const ustring kLogComponent("extractor_debug");
 
 // What is written is new and lies under the user's own directory. So an existing file is replaced
@@ -73,6 +75,12 @@ Reader OpenToLook(const ustring& path) {
 archive_entry* NextEntry(archive* reader) {
     archive_entry* entry = nullptr;
     return archive_read_next_header(reader, &entry) == ARCHIVE_OK ? entry : nullptr;
+}
+
+// A copy must be removable again, and the file layer does not take every name that libarchive
+// takes.
+bool CanBeRemoved(const ustring& path) {
+    return ustring::is_valid(path) && path.length() < kLongestPath;
 }
 
 // The result of archive_read_next_header. A package that was replaced or rewritten since it was
@@ -142,7 +150,7 @@ int Extractor::ExtractEntries(int total, archive* reader, archive* writer) {
             return -1;
         }
         const char* const path = archive_entry_pathname(entry);
-        if (path == nullptr) {
+        if (path == nullptr || !CanBeRemoved(prefix + path)) {
             Logger::LogMsg(LOG_LINE(ERROR, "archive_entry_pathname failed"));
             return -1;
         }

@@ -14,9 +14,10 @@ class Extractor {
     // Writes all entries of `m_source` below `m_dest`. Every entry counts, and every one is
     // reported, as its number from 1 on of the total. Missing parents are made, and what stands
     // under an entry's name is replaced; owner, exact mode and times are not restored. A path with
-    // ".." in it fails, and so do any warning of libarchive and another number of entries than was
-    // counted. The last entry is written when all others are on the disk: a power cut leaves it
-    // out, or leaves nothing out. Result: 0 when the end was reached and all is on the disk; -1.
+    // ".." in it fails, and so do one that is not UTF-8 or too long for a system call, any warning
+    // of libarchive, and another number of entries than was counted. The last entry is written when
+    // all others are on the disk: a power cut leaves it out, or leaves nothing out. Result: 0 when
+    // the end was reached and all is on the disk; -1.
     int Extract();
 
     // The number of entries that can be read, a damaged archive's until the damage. Result: 0 or

@@ -1,0 +1,157 @@
+// A run of the launcher in which its calls on certain files are seen, and may be answered otherwise
+// than by the system. By seccomp_unotify(2), which unlike ptrace(2) leaves the sanitizers alone.
+#pragma once
+
+#include <fcntl.h>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <sys/uio.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstring>
+
+#include "e2e/harness.h"
+#include "unique-fd.h"
+
+enum What { kLook, kOpen, kMake, kWrite, kChange, kRename, kRemove, kFlush };
+
+// A call that is about to be made.
+struct FileCall {
+    What what;
+    std::string path;  // its first path, or that of the file behind its descriptor
+};
+
+// What becomes of it; a negative errno value is the error to fail with.
+enum : int { kGoOn = 0, kKillBefore, kHalfOfTheWrite, kSuccessWithoutIt };
+
+// The calls on files, each with the number of its argument that is a path; -1 for a descriptor.
+constexpr struct FileCallNumber {
+    unsigned number;
+    int path;
+    What what;
+} kFileCalls[] = {
+#ifdef SYS_open  // not on newer processors
+    {SYS_open, 0, kOpen},        {SYS_stat, 0, kLook},        {SYS_lstat, 0, kLook},
+    {SYS_access, 0, kLook},      {SYS_readlink, 0, kLook},    {SYS_mkdir, 0, kChange},
+    {SYS_chmod, 0, kChange},     {SYS_symlink, 1, kChange},   {SYS_link, 1, kChange},
+    {SYS_rename, 0, kRename},    {SYS_rmdir, 0, kRemove},     {SYS_unlink, 0, kRemove},
+#endif
+    {SYS_openat, 1, kOpen},      {SYS_newfstatat, 1, kLook},  {SYS_statx, 1, kLook},
+    {SYS_faccessat, 1, kLook},   {SYS_readlinkat, 1, kLook},  {SYS_mkdirat, 1, kChange},
+    {SYS_renameat, 1, kRename},  {SYS_renameat2, 1, kRename}, {SYS_unlinkat, 1, kRemove},
+    {SYS_read, -1, kLook},       {SYS_lseek, -1, kLook},      {SYS_fstat, -1, kLook},
+    {SYS_getdents64, -1, kLook}, {SYS_write, -1, kWrite},     {SYS_ftruncate, -1, kChange},
+    {SYS_fchmod, -1, kChange},   {SYS_fsync, -1, kChange},    {SYS_syncfs, -1, kFlush}};
+
+// From here on the system asks for each of them. Result: the descriptor that it asks by, or -1.
+inline int InstallFilter() {
+    std::vector<sock_filter> code{BPF_STMT(BPF_LD | BPF_W | BPF_ABS, 0)};  // the call's number
+    for (const auto& call : kFileCalls) {
+        code.push_back(BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, call.number, 0, 1));
+        code.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_USER_NOTIF));
+    }
+    code.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));
+    const sock_fprog program{static_cast<unsigned short>(code.size()), code.data()};
+    prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
+    return static_cast<int>(
+        syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, SECCOMP_FILTER_FLAG_NEW_LISTENER, &program));
+}
+
+// A descriptor of another process, as one of this one's.
+inline int Borrow(pid_t process, int fd) {
+    const UniqueFd handle(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
+    return static_cast<int>(syscall(SYS_pidfd_getfd, handle.get(), fd, 0));
+}
+
+// Less than `size` where less is mapped.
+inline std::string ReadMemory(pid_t process, __u64 address, std::size_t size) {
+    std::string bytes(size, 0);
+    const iovec here{bytes.data(), size};
+    iovec there{nullptr, size};
+    std::memcpy(&there.iov_base, &address, sizeof address);
+    const ssize_t length = process_vm_readv(process, &here, 1, &there, 1, 0);
+    bytes.resize(length < 0 ? 0 : static_cast<std::size_t>(length));
+    return bytes;
+}
+
+inline FileCall Describe(pid_t process, const seccomp_data& data) {
+    const auto call = std::find_if(std::begin(kFileCalls), std::end(kFileCalls), [&](auto& row) {
+        return static_cast<int>(row.number) == data.nr;
+    });
+    std::string path =
+        call->path < 0 ? "" : ReadMemory(process, data.args[call->path], 4096).c_str();
+    if (path.empty() || path[0] != '/') {  // as it is, or in a directory that is open
+        std::error_code none;
+        const std::string fd = std::to_string(static_cast<int>(data.args[0]));
+        const std::string link = "/proc/" + std::to_string(process) + "/fd/" + fd;
+        path =
+            std::filesystem::read_symlink(link, none).string() + (path.empty() ? "" : "/" + path);
+    }
+    const bool makes = call->what == kOpen && (data.args[call->path + 1] & O_CREAT) != 0;
+    return {makes ? kMake : call->what, path};
+}
+
+// Writes the first half for the program. Result: the number of bytes, or -1.
+inline ssize_t WriteHalf(pid_t process, const seccomp_data& data) {
+    const UniqueFd file(Borrow(process, static_cast<int>(data.args[0])));
+    const std::string bytes = ReadMemory(process, data.args[1], (data.args[2] + 1) / 2);
+    return write(file.get(), bytes.data(), bytes.size());
+}
+
+// Runs the launcher until it and what it started have ended, a minute at most, and asks `answer`
+// about its own calls on paths that begin with one of `places`. Result: its exit code; -1 if a
+// signal ended it, -2 if it cannot be supervised here.
+inline int RunSupervised(const World& world, const std::vector<std::string>& places,
+                         const std::function<int(const FileCall&)>& answer) {
+    constexpr int kListener = 200;
+    prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0);  // of a client that the launcher leaves
+    const auto process = world.Start([] { dup2(InstallFilter(), kListener); });
+    const auto launcher = static_cast<pid_t>(process->processId());
+    const UniqueFd listener(Borrow(launcher, kListener));
+    QElapsedTimer timer;
+    timer.start();
+    pollfd ready{listener.get(), POLLIN, 0};
+    while (process->state() != QProcess::NotRunning || (ready.revents & POLLHUP) == 0) {
+        seccomp_notif request{};
+        if (!listener.valid() || timer.hasExpired(60000)) {
+            process->kill();
+        }
+        if (poll(&ready, 1, 10) <= 0 || (ready.revents & POLLIN) == 0) {
+            process->waitForFinished(0);
+            while (process->state() == QProcess::NotRunning && waitpid(-1, nullptr, WNOHANG) > 0) {
+            }
+            continue;
+        }
+        if (ioctl(listener.get(), SECCOMP_IOCTL_NOTIF_RECV, &request) != 0) {
+            continue;  // the caller is gone
+        }
+        const auto caller = static_cast<pid_t>(request.pid);
+        const FileCall call = Describe(caller, request.data);
+        const bool asked = getpgid(caller) == getpgrp() &&
+                           std::any_of(places.begin(), places.end(), [&](const std::string& place) {
+                               return call.path.rfind(place, 0) == 0;
+                           });
+        const int decision = asked ? answer(call) : kGoOn;
+        if (decision == kKillBefore) {
+            process->kill();
+        }
+        seccomp_notif_resp response{};
+        response.id = request.id;
+        response.error = std::min(decision, 0);
+        if (decision == kHalfOfTheWrite && call.what == kWrite) {
+            response.val = WriteHalf(launcher, request.data);
+        }
+        const bool done = response.error != 0 || response.val != 0 || decision == kSuccessWithoutIt;
+        response.flags = done ? 0 : SECCOMP_USER_NOTIF_FLAG_CONTINUE;
+        ioctl(listener.get(), SECCOMP_IOCTL_NOTIF_SEND, &response);
+    }
+    return !listener.valid()                               ? -2
+           : process->exitStatus() == QProcess::NormalExit ? process->exitCode()
+                                                           : -1;
+}

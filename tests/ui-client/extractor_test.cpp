@@ -1,0 +1,271 @@
+// The extractor: what it writes and reports, and archives that are hostile, damaged or changing.
+#include "ui-client/launcher/extractor.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QObject>
+#include <clocale>
+#include <map>
+#include <random>
+
+#include "ui-client/launcher/notify-adapter.h"
+#include "ui-client/service_fixture.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Entry {
+    std::string path;
+    std::string content;  // or where a link leads to
+    mode_t mode = S_IFREG;
+};
+
+constexpr mode_t kHardLink = 0;
+using Format = int (*)(archive*);
+
+void MakeArchive(const std::string& path, const std::vector<Entry>& entries,
+                 Format format = archive_write_set_format_pax_restricted,
+                 const char* filter = "cat") {
+    archive* const writer = archive_write_new();
+    format(writer);
+    archive_write_add_filter_program(writer, filter);
+    archive_write_open_filename(writer, path.c_str());
+    for (const auto& [name, content, mode] : entries) {
+        archive_entry* const header = archive_entry_new();
+        archive_entry_set_pathname(header, name.c_str());
+        archive_entry_set_mode(header, (mode == kHardLink ? S_IFREG : mode) | 0755);
+        archive_entry_set_hardlink(header, mode == kHardLink ? content.c_str() : nullptr);
+        if (mode == S_IFLNK) {
+            archive_entry_set_symlink(header, content.c_str());
+        }
+        archive_entry_set_size(header,
+                               mode == S_IFREG ? static_cast<la_int64_t>(content.size()) : 0);
+        archive_write_header(writer, header);
+        archive_write_data(writer, content.data(), content.size());
+        archive_entry_free(header);
+    }
+    archive_write_close(writer);
+    archive_write_free(writer);
+}
+
+// Contents by path: "/" for a directory, an arrow and the target for a link.
+using Tree = std::map<std::string, std::string>;
+
+Tree Look(const std::string& directory) {
+    Tree tree;
+    for (const auto& file : fs::recursive_directory_iterator(directory)) {
+        tree[file.path().lexically_relative(directory)] =
+            file.is_symlink()        ? "->" + fs::read_symlink(file).filename().string()
+            : file.is_regular_file() ? ReadFile(file.path())
+                                     : "/";
+    }
+    return tree;
+}
+
+class ExtractorTest : public ServiceTest {
+  protected:
+    ExtractorTest() {
+        extractor.m_source = (home / "archive").c_str();
+        extractor.m_dest = (home / "dest").c_str();
+    }
+
+    int ExtractAfresh() {
+        fs::remove_all(home / "dest");
+        fs::create_directory(home / "dest");
+        fs::resize_file(LogPath(), 0);
+        return extractor.Extract();
+    }
+
+    Extractor extractor;
+};
+
+}  // namespace
+
+TEST_F(ExtractorTest, WritesReportsAndCounts) {
+    MakeArchive(home / "archive", {{"dir/", "", S_IFDIR},
+                                   {"dir/run", "#!"},
+                                   {"no/parents", "x"},
+                                   {"replaced", "inside"},
+                                   {"link", "dir/run", S_IFLNK}});
+    WriteFile(home / "outside", "outside");
+    fs::create_directory(home / "dest");
+    fs::create_symlink(home / "outside", home / "dest/replaced");
+    std::vector<std::pair<int, int>> reports;
+    QObject receiver;
+    QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &receiver,
+                     [&](int total, int current) { reports.emplace_back(total, current); });
+    EXPECT_EQ(extractor.Count(), 5);
+    EXPECT_EQ(extractor.Extract(), 0);
+    EXPECT_EQ(reports, (std::vector<std::pair<int, int>>{{5, 1}, {5, 2}, {5, 3}, {5, 4}, {5, 5}}));
+    EXPECT_EQ(Look(home / "dest"), (Tree{{"dir", "/"},
+                                         {"dir/run", "#!"},
+                                         {"link", "->run"},
+                                         {"no", "/"},
+                                         {"no/parents", "x"},
+                                         {"replaced", "inside"}}));
+    EXPECT_EQ(access((home / "dest/dir/run").c_str(), X_OK), 0);
+    EXPECT_EQ(ReadFile(home / "outside"), "outside") << "a link was written through";
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(extractor.List(), 0);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "dir/\ndir/run\nno/parents\nreplaced\nlink\n");
+}
+
+// What was written before a failure stays. A package is trusted with where its links lead to.
+TEST_F(ExtractorTest, HostileAndOddPackages) {
+    const std::string outside = home / "outside";
+    const std::string out = home / "out";
+    const std::string deep(5000, '/');  // empty components, which libarchive would leave out
+    const bool root = getuid() == 0;
+    const struct {
+        const char* name;
+        std::vector<Entry> entries;
+        int result;
+        Tree tree;
+        const char* log;
+    } cases[] = {
+        {"no entries", {}, -1, {}, ": Failed to calculate total file numbers, ret: 0\n"},
+        {"absolute path", {{"/rooted", "x"}}, 0, {{"rooted", "x"}}, ""},
+        {"climbs",
+         {{"a", "x"}, {"../b", "y"}},
+         -1,
+         {{"a", "x"}},
+         "2 failed: 'Path contains '..''\n"},
+        {"climbs within", {{"a/../b", "x"}}, -1, {}, "'Path contains '..''\n"},
+        {"long name", {{std::string(5000, 'n'), "x"}}, -1, {}, ": archive_entry_pathname failed"},
+        {"long path", {{"a" + deep + "b", "x"}}, -1, {}, ": archive_entry_pathname failed"},
+        {"not UTF-8", {{"bad\xff", "x"}}, -1, {}, ": archive_entry_pathname failed"},
+        {"below a file", {{"a", "x"}, {"a/b", "y"}}, -1, {{"a", "x"}}, "_extract2 failed: '"},
+        {"over a directory",
+         {{"a/b", "x"}, {"a", "y"}},
+         -1,
+         {{"a", "/"}, {"a/b", "x"}},
+         "_extract2 failed: '"},
+        {"over an empty one", {{"a/", "", S_IFDIR}, {"a", "y"}}, 0, {{"a", "y"}}, ""},
+        {"over a file", {{"a", "x"}, {"a/", "", S_IFDIR}}, 0, {{"a", "/"}}, ""},
+        {"twice", {{"a", "x"}, {"a", "y"}}, 0, {{"a", "y"}}, ""},
+        {"over a link", {{"a", outside, S_IFLNK}, {"a", "y"}}, 0, {{"a", "y"}}, ""},
+        {"through a link", {{"a", out, S_IFLNK}, {"a/b", "y"}}, 0, {{"a", "->out"}}, ""},
+        {"hard link",
+         {{"a", "x"}, {"b", "a", kHardLink}},
+         -1,
+         {{"a", "x"}},
+         "'Hard-link target 'a' does"},
+        {"absolute one", {{"a", outside, kHardLink}}, 0, {{"a", "outside"}}, ""},
+        {"FIFO", {{"a", "", S_IFIFO}}, 0, {{"a", "/"}}, ""},
+        {"device", {{"a", "", S_IFCHR}}, root ? 0 : -1, root ? Tree{{"a", "/"}} : Tree(), ""},
+    };
+    fs::create_directory(out);
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.name);
+        WriteFile(outside, "outside");
+        MakeArchive(home / "archive", row.entries);
+        EXPECT_EQ(ExtractAfresh(), row.result);
+        EXPECT_EQ(Look(home / "dest"), row.tree);
+        const std::string log = ReadFile(LogPath());
+        EXPECT_EQ(LogLines("ERROR"), row.result == 0 ? 0 : 1) << log;
+        EXPECT_NE(log.find(row.log), std::string::npos) << log;
+        EXPECT_EQ(ReadFile(outside), "outside");
+    }
+    EXPECT_EQ(Look(out), (Tree{{"b", "y"}}));
+    for (const Format format :
+         {archive_write_set_format_zip, archive_write_set_format_7zip,
+          archive_write_set_format_cpio_newc, archive_write_set_format_iso9660}) {
+        MakeArchive(home / "archive", {{"a", "x"}, {"b/c", "y"}}, format, "cat");
+        EXPECT_EQ(ExtractAfresh(), 0);
+        EXPECT_EQ(Look(home / "dest"), (Tree{{"a", "x"}, {"b", "/"}, {"b/c", "y"}}));
+    }
+    MakeArchive(home / "archive", {{"a", "x"}}, archive_write_set_format_ar_bsd, "gzip -c");
+    EXPECT_EQ(ExtractAfresh(), 0);
+}
+
+TEST_F(ExtractorTest, RefusesWhatIsNotThere) {
+    const std::tuple<std::string, std::string, int, const char*> cases[] = {
+        {"", home / "dest", 1, ": Invalid Argument\n"},
+        {home / "archive", "", 1, ": Invalid Argument\n"},
+        {home / "none", home / "dest", 2, "total file numbers, ret: -1\n"}};
+    for (const auto& [source, dest, lines, log] : cases) {
+        extractor.m_source = source.c_str();
+        extractor.m_dest = dest.c_str();
+        EXPECT_EQ(extractor.Count(), -1);
+        EXPECT_EQ(ExtractAfresh(), -1);
+        EXPECT_EQ(LogLines("ERROR"), lines);
+        EXPECT_EQ(LogLines(log), 1);
+    }
+}
+
+// A package of the kind that is shipped is taken as a whole or not at all.
+TEST_F(ExtractorTest, Damage) {
+    std::minstd_rand random(1);
+    std::string noise(30000, 0);
+    std::generate(noise.begin(), noise.end(), [&] { return static_cast<char>(random() >> 8); });
+    MakeArchive(home / "archive", {{"a", noise}, {"b/c", noise + noise}, {"INFO", "x"}},
+                archive_write_set_format_pax_restricted, "zstd -q --check -c");
+    EXPECT_EQ(ExtractAfresh(), 0);
+    const Tree whole = Look(home / "dest");
+    const std::string good = ReadFile(home / "archive");
+    for (std::size_t size = 0; size < good.size(); size += size + 700 < good.size() ? 701 : 7) {
+        WriteFile(home / "archive", good.substr(0, size));
+        EXPECT_EQ(ExtractAfresh(), -1) << "cut at " << size;
+    }
+    for (int flip = 0; flip < 300; ++flip) {
+        std::string flipped = good;
+        const std::size_t at = random() % good.size();
+        flipped[at] = static_cast<char>(flipped[at] ^ (1 << flip % 8));
+        WriteFile(home / "archive", flipped);
+        EXPECT_TRUE(ExtractAfresh() == -1 || Look(home / "dest") == whole) << "flipped at " << at;
+    }
+    // Within the second header, where the data around it say nothing.
+    MakeArchive(home / "archive", {{"a", noise}, {"b", "x"}});
+    fs::resize_file(home / "archive", 512 + 30208 + 100);
+    EXPECT_EQ(ExtractAfresh(), -1);
+    EXPECT_EQ(LogLines(": archive_read_next_header failed: 'Truncated tar archive'\n"), 1);
+    // A warning: the locale has no such letter.
+    MakeArchive(home / "archive", {{"a", "x"}, {"\xC3\xA9", "y"}});
+    setlocale(LC_CTYPE, "C");
+    EXPECT_EQ(ExtractAfresh(), -1);
+    setlocale(LC_CTYPE, "C.UTF-8");
+    EXPECT_EQ(LogLines(": archive_read_next_header failed: 'Pathname can't be converted"), 1);
+}
+
+TEST_F(ExtractorTest, PackageThatChangesAfterItWasCounted) {
+    const std::string content(200 << 9, 'x');
+    MakeArchive(home / "archive", {{"a", content}, {"b", content}, {"c", content}, {"d", content}});
+    const std::string four = ReadFile(home / "archive");
+    std::string two = four;
+    two.replace(2 * (512 + content.size()), 1024, 1024, 0);  // where a tar ends
+    for (const int counted : {2, 4}) {
+        WriteFile(home / "archive", counted == 2 ? two : four);
+        QObject receiver;
+        QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress,
+                         &receiver,
+                         [&] { WriteFile(home / "archive", counted == 2 ? four : two); });
+        EXPECT_EQ(ExtractAfresh(), -1);
+        EXPECT_EQ(
+            LogLines("'Changed since its " + std::to_string(counted) + " entries were counted'\n"),
+            1);
+    }
+}
+
+TEST_F(ExtractorTest, PoursOneEntry) {
+    MakeArchive(home / "archive", {{"one", std::string(100000, '1')}});
+    archive* const reader = archive_read_new();
+    archive_read_support_format_all(reader);
+    archive_read_open_filename(reader, (home / "archive").c_str(), 10240);
+    archive_entry* entry = nullptr;
+    ASSERT_EQ(archive_read_next_header(reader, &entry), ARCHIVE_OK);
+    archive* const writer = archive_write_disk_new();
+    archive_entry_set_pathname(entry, (home / "poured").c_str());
+    ASSERT_EQ(archive_write_header(writer, entry), ARCHIVE_OK);
+    EXPECT_EQ(extractor.copy_data(nullptr, writer), -1);
+    EXPECT_EQ(extractor.copy_data(reader, nullptr), -1);
+    EXPECT_EQ(extractor.copy_data(reader, writer), 0);
+    archive_read_free(reader);
+    archive_write_free(writer);
+    EXPECT_EQ(ReadFile(home / "poured"), std::string(100000, '1'));
+}
