@@ -35,8 +35,6 @@ class TmpNameGen {
     TmpNameGen& operator=(const TmpNameGen&) = delete;
 
   private:
-    friend struct TmpNameGenTestPeer;
-
     TmpNameGen();
     ~TmpNameGen() {}
 

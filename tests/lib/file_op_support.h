@@ -1,49 +1,42 @@
 // What the tests of the file layer share.
 #pragma once
 
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
-#include <cstdio>
+#include <regex>
 #include <set>
-#include <string>
 #include <tuple>
 #include <vector>
 
 #include "file/file-op.h"
 #include "log.h"
-#include "temp_dir.h"
+#include "tests/temp_dir.h"
 
 namespace fs = std::filesystem;
+using namespace std::string_literals;
 
 using Text = const char*;
 template <class... Columns>
 using Rows = std::vector<std::tuple<Columns...>>;
 
-// Grows with every descriptor that is left open.
-inline int NextDescriptor() {
-    const int next = dup(STDERR_FILENO);
-    close(next);
-    return next;
-}
+const std::string kComposed = "caf\xc3\xa9", kDecomposed = "cafe\xcc\x81", kNotUtf8 = "caf\xe9";
 
-inline long Entries(const std::string& path) {
-    return std::distance(fs::directory_iterator(path), {});
-}
-
-// All there is at a path, as text; empty if there is nothing.
-inline std::string Content(const std::string& path) {
+inline struct stat Status(const fs::path& path) {
     struct stat status = {};
-    if (lstat(path.c_str(), &status) != 0) {
-        return "";
-    }
-    if (S_ISREG(status.st_mode) || S_ISLNK(status.st_mode)) {
-        return S_ISREG(status.st_mode) ? "file " + ReadFile(path)
-                                       : "link " + fs::read_symlink(path).string();
-    }
-    std::string content = "mode " + std::to_string(status.st_mode);
-    if (S_ISDIR(status.st_mode)) {
+    lstat(path.c_str(), &status);
+    return status;
+}
+
+// All there is at a path, as text: mode and what it holds; "0" for nothing.
+inline std::string Content(const fs::path& path) {
+    const mode_t mode = Status(path).st_mode;
+    std::string content = std::to_string(mode);
+    if (S_ISREG(mode) || S_ISLNK(mode)) {
+        content += S_ISREG(mode) ? ReadFile(path) : fs::read_symlink(path).string();
+    } else if (S_ISDIR(mode)) {
         for (const fs::path& child : std::set<fs::path>(fs::directory_iterator(path), {})) {
             content += " {" + child.filename().string() + ": " + Content(child) + "}";
         }
@@ -51,47 +44,38 @@ inline std::string Content(const std::string& path) {
     return content;
 }
 
-// A move that is refused changes nothing on either side.
-inline void TestRename(const std::string& from, const std::string& to, bool exact, int result) {
-    SCOPED_TRACE(from + " to " + to);
-    const std::string source = Content(from), target = Content(to);
-    EXPECT_EQ(FSRename(from, to, exact), result);
-    EXPECT_EQ(Content(from), result == 0 ? "" : source);
-    EXPECT_EQ(Content(to), result == 0 ? source : target);
+// Mounts of this process's own, so that nothing stays mounted whatever happens.
+inline bool OwnMounts() {
+    return unshare(CLONE_NEWNS) == 0 &&
+           mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
 // Runs `body` in a child process that `prepare` makes ready: what fails there fails the test. It is
 // skipped if `prepare` is refused.
 template <class Prepare, class Body>
 void InChild(Prepare prepare, Body body) noexcept {
-    constexpr int kSkipped = 77;
     std::fflush(nullptr);
     const pid_t child = fork();
     if (child == 0) {
-        if (!prepare()) {
-            std::perror("The child process cannot be made ready");
-            _exit(kSkipped);
-        }
-        const int descriptor = NextDescriptor();
-        body();
-        EXPECT_EQ(NextDescriptor(), descriptor);
+        const bool ready = prepare();
+        ready ? body() : void();
         std::fflush(nullptr);
-        _exit(testing::Test::HasFailure() ? 1 : 0);
+        _exit(ready ? testing::Test::HasFailure() : 77);
     }
     int status = -1;
     waitpid(child, &status, 0);
-    if (WIFEXITED(status) && WEXITSTATUS(status) == kSkipped) {
-        GTEST_SKIP() << "see the reason above";
+    if (WIFEXITED(status) && WEXITSTATUS(status) == 77) {
+        GTEST_SKIP() << "This user may neither mount nor become another.";
     }
     EXPECT_EQ(status, 0);
 }
 
-// Works in a directory that any user may enter, with one object of each kind, and logs everything.
+// Works in a directory that any user may enter, with one object of each kind, and logs at the
+// default level.
 class FileOp : public testing::Test {
   protected:
     FileOp() {
-        WriteFile(logs_ / "levels", "file_op_debug=7\n");
-        Logger::Initialize(Logger::TYPE_FILE, logs_ / "log", logs_ / "levels", 1);
+        LogUpTo(4);
         chmod(at_.path().c_str(), 0755);
         fs::current_path(at_.path());
         WriteFile(at_ / "file", "content");
@@ -108,17 +92,17 @@ class FileOp : public testing::Test {
         fs::current_path("/");
         Logger::Destroy();
     }
-    // How many lines with `text` were logged since the last call.
-    int Logged(const std::string& text) {
-        std::ifstream log(logs_ / "log");
-        int found = 0;
-        for (std::string line; std::getline(log, line);) {
-            found += line.find(text) != std::string::npos ? 1 : 0;
-        }
-        fs::resize_file(logs_ / "log", 0);
-        return found;
+    void LogUpTo(int level) {
+        WriteFile(logs_ / "levels", "file_op_debug=" + std::to_string(level));
+        Logger::Initialize(Logger::TYPE_FILE, logs_ / "log", logs_ / "levels", 1);
     }
-    int Errors() { return Logged("[ERROR] file-op("); }
+    // What was logged since the last call, less time stamps, tags and line numbers.
+    std::string TakeLog() {
+        static const std::regex cut("[A-Z][a-z]{2} [ 0-9]{2} [0-9:]{8} |file-op\\([1-9]\\d*\\): ");
+        const std::string log = ReadFile(logs_ / "log");
+        fs::resize_file(logs_ / "log", 0);
+        return std::regex_replace(log, cut, "");
+    }
 
     TempDir logs_, at_;
     int descriptor_ = 0;

@@ -3,9 +3,11 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <syslog.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -24,15 +26,26 @@ struct LoggerTestPeer {
 
 namespace {
 
+namespace fs = std::filesystem;
 constexpr int kStamp = 16, kLine = 18;  // bytes of "Nov 18 15:07:08 " and of this with "a\n"
 
-void Log(const std::string& text, int level = 3, const ustring& component = "a") {
-    Logger::LogMsg(static_cast<Logger::Level>(level), component, "%s\n", text.c_str());
+void Log(int level, std::string component, const char* format, ...) {
+    va_list args;
+    va_start(args, format);
+    LogMSG_c(level, component.data(), format, args);
+    va_end(args);
+}
+
+void Log(const std::string& text) {
+    Log(3, "a", "%s\n", text.c_str());
 }
 
 class LoggerTest : public testing::Test {
   protected:
-    ~LoggerTest() override { Logger::Destroy(); }
+    ~LoggerTest() override {
+        Logger::Destroy();
+        EXPECT_EQ(NextDescriptor(), descriptor_);
+    }
 
     int Open(const std::string& path, int rotate_cnt = 50, const std::string& levels = "") {
         return Logger::Initialize(Logger::TYPE_FILE, path, levels, rotate_cnt);
@@ -40,16 +53,16 @@ class LoggerTest : public testing::Test {
     // Removes the folder's files. Result: each with its text, less time stamps and ends of lines.
     std::string TakeFiles() const {
         static const std::regex cut("[A-Z][a-z]{2} [ 0-9]{2} [0-9:]{8} |\n");
-        const std::filesystem::directory_iterator begin(dir_.path()), end;
         std::string all;
-        for (const std::filesystem::path& file : std::set<std::filesystem::path>(begin, end)) {
+        for (const fs::path& file : std::set<fs::path>(fs::directory_iterator(dir_.path()), {})) {
             all +=
                 file.filename().string() + ":" + std::regex_replace(ReadFile(file), cut, "") + " ";
-            std::filesystem::remove(file);
+            fs::remove(file);
         }
         return all;
     }
 
+    const int descriptor_ = NextDescriptor();
     TempDir dir_;
     const std::string log_ = dir_ / "log";
 };
@@ -62,33 +75,38 @@ TEST_F(LoggerTest, LevelsPassUpToTheThresholdOfTheirComponent) {
     ASSERT_EQ(Open(log_, 50, levels), 0);
     for (const std::string component : {"a", "b", "c", "d", "e"}) {
         for (int level = 3; level <= 7; ++level) {
-            Log(component + std::to_string(level), level, component);
+            Log(level, component, "%s%d\n", component.c_str(), level);
         }
     }
     EXPECT_EQ(TakeFiles(), "levels:e=7malformed line log:a3a4a5a6a7b3b4b5e3e4 ");
 }
 
-TEST_F(LoggerTest, ALineIsTheLocalTimeAndTheMessage) {
+TEST_F(LoggerTest, ALineIsTheLocalTimeAndTheMessageWhateverItsLength) {
     setenv("TZ", "TST-9", 1);
-    const auto line_now = [] {
+    const std::string text(300000, 'x');
+    const auto line_now = [&] {
         const std::time_t now = std::time(nullptr);
-        char line[64];
-        std::strftime(line, sizeof line, "%b %d %T [ERROR] a(87): 100%%\n", std::localtime(&now));
-        return std::string(line);
+        char stamp[64];
+        std::strftime(stamp, sizeof stamp, "%b %d %T ", std::localtime(&now));
+        return stamp + text + " 100%\n";
     };
     ASSERT_EQ(Open(log_), 0);
     const std::string before = line_now();
-    Logger::LogMsg(Logger::LEVEL_ERROR, "a", "[ERROR] a(%d): %s\n", 87, "100%");
-    const std::string line = ReadFile(log_);
-    EXPECT_TRUE(line == before || line == line_now()) << line;
+    Log(text + " 100%");
+    EXPECT_TRUE(ReadFile(log_) == before || ReadFile(log_) == line_now());
+    EXPECT_EQ(LoggerTestPeer::size(), static_cast<int>(before.size()));
+    fs::create_symlink("/dev/full", dir_ / "full");
+    ASSERT_EQ(Open(dir_ / "full"), 0);
+    Log(text);
+    EXPECT_EQ(LoggerTestPeer::size(), 0);  // what is not written does not count
 }
 
 // In a process of its own, in which nobody has called Initialize.
 TEST(LoggerDeathTest, LinesGoToTheStreamOfTheTypeAndToTheFormerOneOnFailure) {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     const auto run = [] {
-        Log("early", 4);
-        Log("silent", 5);
+        Log(4, "a", "early\n");
+        Log(5, "a", "silent\n");
         std::fflush(stdout);
         dup2(STDERR_FILENO, STDOUT_FILENO);
         Log(Logger::Initialize(Logger::TYPE_FILE, "", "", 2) == -1 ? "failed" : "opened");
@@ -107,14 +125,26 @@ TEST(LoggerDeathTest, LinesGoToTheStreamOfTheTypeAndToTheFormerOneOnFailure) {
                 "^.{16}early\n.{16}failed\n.{16}stdout\ntag: syslog\n.{16}stderr\n$");
 }
 
+// While no descriptor is left.
+int RotateWithoutDescriptors() {
+    rlimit former;
+    getrlimit(RLIMIT_NOFILE, &former);
+    const rlimit none = {NextDescriptor() + 0u, former.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &none);
+    const int result = Logger::Rotate();
+    setrlimit(RLIMIT_NOFILE, &former);
+    return result;
+}
+
 TEST_F(LoggerTest, WhereLinesGoAfterRotationsFailuresAndReopenings) {
     // A small letter is a line, and a digit opens the log with that count.
     const std::map<char, std::function<void()>> steps = {
-        {'B', [&] { std::filesystem::create_directory(log_), Log("x"), rmdir(log_.c_str()); }},
+        {'B', [&] { fs::create_directory(log_), Log("x"), rmdir(log_.c_str()); }},
         {'D', [&] { Logger::Destroy(); }},
         {'F', [&] { EXPECT_EQ(Logger::Rotate(), -1); }},
         {'L', [&] { LoggerTestPeer::size() += 1048576 - 2 * kLine; }},
-        {'M', [&] { std::filesystem::rename(log_, dir_ / "moved"); }},
+        {'M', [&] { fs::rename(log_, dir_ / "moved"); }},
+        {'N', [&] { EXPECT_EQ(RotateWithoutDescriptors(), 0); }},
         {'O', [&] { ++LoggerTestPeer::rotations(); }},  // the other writers'
         {'R', [&] { EXPECT_EQ(Logger::Rotate(), 0); }},
         {'X', [&] { EXPECT_EQ(Open("") + Open(dir_.path()) + Open(log_ + "s/log"), -3); }}};
@@ -125,9 +155,10 @@ TEST_F(LoggerTest, WhereLinesGoAfterRotationsFailuresAndReopenings) {
         {"9o9aLbcd", "log:d log_0:oabc ", kLine},  // what an earlier run wrote does not count
         {"9aRbR1cR", "log: log_0:c log_1:a ", 0},
         {"9aRbRcRdR3eR", "log: log_0:e log_1:d log_3:a ", 0},
+        {"D9aNb", "log:b log_0:a ", kLine},
         {"9aXb", "log:ab ", -1},
         {"9aDDb9c", "log:ac ", kLine},
-        {"9MaOb", "log:b moved:a ", kLine},
+        {"9MaObc", "log:bc moved:a ", 2 * kLine},
         {"9aObRMc", "log_0:ab moved:c ", kLine},  // its own rotation needs no reopening
         {"9aMOBb", "moved:a ", kLine},
         {"9aMFb", "moved:a ", kLine},
@@ -147,6 +178,36 @@ TEST_F(LoggerTest, WhereLinesGoAfterRotationsFailuresAndReopenings) {
         EXPECT_EQ(LoggerTestPeer::size(), row.size);
         EXPECT_EQ(TakeFiles(), row.files);
     }
+}
+
+// The longest path that leaves room behind it for the numbers of ten files.
+TEST_F(LoggerTest, APathIsTooLongWhenItsNumbersDoNotFit) {
+    for (const std::size_t length : {1021u, 1022u}) {
+        std::string path = dir_ / "";
+        path += std::string(length - path.size() - 3, '/') + "log";
+        ASSERT_EQ(Open(path, 10), 0);
+        EXPECT_EQ(Logger::Rotate(), length == 1021 ? 0 : -1);
+    }
+}
+
+// As in a process that has not called Initialize: the first lines make the lock.
+TEST_F(LoggerTest, FirstLinesOfTwoThreads) {
+    ASSERT_EQ(Open(log_), 0);
+    for (int round = 0; round < 500; ++round) {
+        Logger::DestroySharedData();
+        Logger::DestroyLock();
+        std::atomic<int> ready = 0;
+        const auto log = [&] {
+            for (++ready; ready < 2;) {
+                std::this_thread::yield();
+            }
+            Log("x");
+        };
+        std::thread other(log);
+        log();
+        other.join();
+    }
+    EXPECT_EQ(fs::file_size(log_), 1000u * kLine);
 }
 
 TEST_F(LoggerTest, ThreadsLoseAndMixNoLineWhileTheFileRotates) {

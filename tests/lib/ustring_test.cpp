@@ -5,7 +5,6 @@
 
 #include <cstring>
 #include <iostream>
-#include <set>
 #include <sstream>
 #include <string>
 
@@ -51,7 +50,9 @@ TEST(UstringChangeTest, EachChangeLeavesItsTextAndItsView) {
         void (*change)(ustring&);
         char const *text, *outcome;  // of the UTF-16 view that was built before, or the exception
     } kRows[] = {
-        {CHANGE(s.append("b").append("cd", 1).append("e", 9).append('f', 2)), "aébceff", "dropped"},
+        {CHANGE(s.append("b").append("cd", 1).append("e", 9)), "aébce", "dropped"},
+        {CHANGE(s.append('f', 1)), "aéf", "dropped"},
+        {CHANGE(s += 'c'), "aéc", "dropped"},
         {CHANGE((((s = "e") += "b") += 'c') += std::string("d\0e", 3)), "ebcd", "dropped"},
         {CHANGE(((s += kUnits) += kUnit).append(kUnits, 1).append(kUnit, 2)), "aéézéééé", "built"},
         {CHANGE(s.assign(ustring("bcd"), 1, 1).append(ustring("fgh"), 1, 1)), "cg", "dropped"},
@@ -72,8 +73,12 @@ TEST(UstringChangeTest, EachChangeLeavesItsTextAndItsView) {
         {CHANGE(s.assign(s.c_str_utf16(), 1)), "a", "built"},
         {CHANGE(ustring other(kUnits + 1); swap(s, other)), "z", "built"},
         {CHANGE(s.trim("b"), s.trim(""), s.replace('b', 'c'), s.replace(0, 'c')), "aé", "built"},
+        {CHANGE(s.replace('a', 'a')), "aé", "built"},
         {CHANGE(s.ltrim("a")), "é", "dropped"},
-        {CHANGE(s.rtrim("é")), "a", "dropped"},
+        {CHANGE(s.rtrim(ustring("é"))), "a", "dropped"},
+        {CHANGE(s.ltrim(ustring("éa"))), "", "dropped"},
+        {CHANGE(s.rtrim("éa")), "", "dropped"},
+        {CHANGE(s = "xyaxy", s.trim(ustring("yx"))), "a", "dropped"},
         {CHANGE(s.replace('a', '\xFF'), s.replace('\xFF', 'b')), "bé", "dropped"},
         {CHANGE((s + '\0' + s.substr(1, 9) + "b" + kUnits + kUnit).swap(s)), "aéébézé", "dropped"},
         {CHANGE(s.substr(4, 1)), "aé", "substr"},
@@ -101,9 +106,10 @@ TEST(UstringChangeTest, EachChangeLeavesItsTextAndItsView) {
 }
 
 TEST(UstringConversionTest, WhatCannotBeConvertedIsToldAndLeavesAnEmptyText) {
+    CerrCapture cerr;
     for (char const* text : {"\xFF", "a\x80", "\xC3", "\xED\xA0\x80", "\xF4\x90\x80\x80"}) {
         SCOPED_TRACE(testing::PrintToString(text));
-        const CerrCapture cerr;
+        cerr.str("");
         ustring s(text);
         EXPECT_FALSE(ustring::is_valid(s));
         EXPECT_EQ(Utf16(s), u"");
@@ -112,9 +118,11 @@ TEST(UstringConversionTest, WhatCannotBeConvertedIsToldAndLeavesAnEmptyText) {
         EXPECT_EQ(Text(s), text);
         EXPECT_EQ(Text(s.append(kUnit, 1)), "é");  // the old text has no part in the result
     }
-    const CerrCapture cerr;
-    EXPECT_EQ(Text(ustring("abc") += static_cast<unsigned short>(0xD800)), "");
-    EXPECT_EQ(cerr.str(), "Warning: u_strToUTF8: error code 10 at line 888\n");
+    ustring s("a\U0001F600");
+    s.assign(s.c_str_utf16(), 2);  // half of a pair
+    EXPECT_EQ(Text(s), "");
+    EXPECT_EQ(Peer::units(s), 0u);
+    EXPECT_NE(cerr.str().find("Warning: u_strToUTF8: error code 10 at line 888\n"), kNone);
 }
 
 TEST(UstringConversionTest, GoesBothWaysAndNormalises) {
@@ -163,22 +171,18 @@ TEST(UstringSearchTest, EveryFamilyAndEveryKindOfNeedle) {
             EXPECT_EQ(Search(row.text, row.needle[0], row.pos), row.found);
         }
     }
+}
+
+// A NUL that lies inside the length hides what is behind it.
+TEST(UstringSearchTest, NulInsideTheLength) {
     ustring s("ab-cd");
     s[2] = '\0';
     EXPECT_EQ(s.find('c', 0), kNone);
-}
-
-TEST(UstringTrimTest, TakesBytesOfTheSet) {
-    static char const* const kRows[][3] = {
-        {"  a b ", " ", "a b |  a b|a b"}, {"   ", " ", "||"}, {"a  ", " ", "a  |a|a"},
-        {"é", "\xA9", "é|\xC3|\xC3"},      {"", " ", "||"},    {"xyaxy", "yx", "axy|xya|a"}};
-    for (auto const& [text, set, trimmed] : kRows) {
-        ustring left(text), right(text), both(text);
-        left.ltrim(set);
-        right.rtrim(ustring(set));
-        both.trim(set);
-        EXPECT_EQ(Text(left) + "|" + Text(right) + "|" + Text(both), trimmed);
-    }
+    EXPECT_EQ(s.rfind('c', kNone), 3u);
+    s.append('\0', 3);
+    EXPECT_EQ(s.length(), 8u);
+    EXPECT_TRUE(s == "ab" && s.compare("ab", 9) == 0 && Text(ustring(s)) == "ab");
+    EXPECT_EQ(Utf16(s), u"ab");
 }
 
 TEST(UstringCompareTest, GivesTheDifferenceOfTheFirstBytesThatDiffer) {
@@ -203,13 +207,11 @@ TEST(UstringCompareTest, GivesTheDifferenceOfTheFirstBytesThatDiffer) {
     EXPECT_EQ(ustring("abc").compare("abd", 3), -1);
 }
 
-TEST(UstringStreamTest, KeysOfAMapAreWrittenInTheOrderOfTheirBytesAndReadAsTokens) {
+TEST(UstringStreamTest, ReadsTokensAndWritesBytes) {
     std::stringstream stream;
-    for (ustring const& key : std::set<ustring>{"b", "é", "", "ab", "\xFF"}) {
-        stream << key << "1 \n";
-    }
+    stream << ustring("a\xFF") << ustring(" b \n");
     ustring s;
-    for (char const* token : {"1", "ab1", "b1", "é1", "\xFF\x31", ""}) {
+    for (char const* token : {"a\xFF", "b", ""}) {
         EXPECT_EQ(!(stream >> s), *token == '\0');
         EXPECT_EQ(Text(s), token);
     }
@@ -217,19 +219,23 @@ TEST(UstringStreamTest, KeysOfAMapAreWrittenInTheOrderOfTheirBytesAndReadAsToken
 
 // Exact fit, and a block with spare room of up to its half stays.
 TEST(UstringCapacityTest, FollowsTheText) {
-    ustring s;
-    EXPECT_EQ(Peer::capacity(s), 4u);
-    EXPECT_EQ(Peer::unit_capacity(s), 4u);
+    const auto capacities = [](ustring const& s) {
+        return std::pair(Peer::capacity(s), Peer::unit_capacity(s));
+    };
+    ustring s, other;
+    EXPECT_EQ(capacities(s), std::pair(4ul, 4ul));
     s.c_str_utf16();
-    EXPECT_EQ(Peer::unit_capacity(s), 1u);
-    const std::pair<char const*, unsigned long> steps[] = {
-        {"abcdefghij", 11}, {"abcde", 11}, {"abcd", 11}, {"abc", 4}, {"", 1}, {"abcde", 6}};
-    for (const auto& [text, capacity] : steps) {
+    EXPECT_EQ(capacities(s), std::pair(4ul, 1ul));
+    for (const auto& [text, capacity] :
+         std::initializer_list<std::pair<char const*, unsigned long>>{
+             {"abcdefghij", 11}, {"abcde", 11}, {"abcd", 11}, {"abc", 4}, {"", 1}, {"abcde", 6}}) {
         s.assign(text);
         EXPECT_EQ(Peer::capacity(s), capacity) << text;
     }
     s.trim("abcde");
-    EXPECT_EQ(Peer::capacity(s), 6u);
+    s.swap(other);
+    EXPECT_EQ(capacities(s), std::pair(4ul, 4ul));
+    EXPECT_EQ(capacities(other), std::pair(6ul, 1ul));
 }
 
 }  // namespace
