@@ -1,11 +1,11 @@
 # The resource collection `texts`: one .qm for each .ts file, compiled into the program.
 find_package(Qt5LinguistTools REQUIRED)
 
-# quillmere_add_texts(<target> <directory of the .ts files>)
+# quillmere_add_texts(<library> <directory of the .ts files>)
 #
-# Adds the collection to the sources of <target>. The four languages whose texts do not shrink much are
-# stored plain, the others compressed by zlib.
-function(quillmere_add_texts target directory)
+# Makes a library of the collection; who links it calls qInitResources_texts(). The four languages whose texts do
+# not shrink much are stored plain, the others compressed by zlib.
+function(quillmere_add_texts library directory)
   set(plain chs cht jpn krn)
   file(GLOB sources CONFIGURE_DEPENDS ${directory}/*.ts)
   set(compiled)
@@ -33,6 +33,5 @@ function(quillmere_add_texts target directory)
     OUTPUT ${collection}
     COMMAND Qt5::rcc --format-version 1 --name texts --output ${collection} ${qrc}
     DEPENDS ${compiled} ${qrc} VERBATIM)
-  target_sources(${target} PRIVATE ${collection})
-  set_source_files_properties(${collection} PROPERTIES SKIP_AUTOGEN ON)
+  add_library(${library} STATIC ${collection})
 endfunction()
