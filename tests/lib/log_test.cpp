@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <cstring>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -32,7 +33,8 @@ extern "C" int pthread_mutex_init(pthread_mutex_t* mutex, const pthread_mutexatt
     for (int i = 0; i < 2000; ++i) {
         std::this_thread::yield();
     }
-    *mutex = PTHREAD_MUTEX_INITIALIZER;
+    const pthread_mutex_t unlocked = PTHREAD_MUTEX_INITIALIZER;
+    std::memcpy(mutex, &unlocked, sizeof unlocked);
     return 0;
 }
 
