@@ -74,15 +74,14 @@ constexpr TypeCode kTypesByEntry[] = {{DT_REG, FS_TYPE_FILE},   {DT_DIR, FS_TYPE
                                       {DT_CHR, FS_TYPE_DEVICE}, {DT_FIFO, FS_TYPE_FIFO},
                                       {DT_SOCK, FS_TYPE_SOCKET}};
 
+bool IsAscii(char const* text, unsigned long length) {
+    return std::all_of(text, text + length,
+                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
 // ASCII is composed as it stands (Unicode Standard Annex #15), and most paths are ASCII.
 ustring Composed(ustring const& path) {
-    char const* const text = path.c_str();
-    char const* const end = text + path.length();
-    const auto is_ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
-    if (std::all_of(text, end, is_ascii)) {
-        return path;
-    }
-    return path.normalize(ustring::NFC);
+    return IsAscii(path.c_str(), path.length()) ? path : path.normalize(ustring::NFC);
 }
 
 UInt8 const* Bytes(ustring const& path) {
@@ -580,13 +579,15 @@ int RemoveDirectory(DIR* parent, char const* name, ustring const& path, long roo
 
 // Removes an entry of `dir`, which lies at `path`. All that FSRemove has to know of it is its type,
 // and the directory tells that; GetFileInfo has lines for the log besides, where they are wanted.
-// So an entry is looked at only then, or when it does not go at once, or when its path may be
-// longer than GetFileInfo can do with: there is `room` for so many bytes behind `path`. Result: 0,
-// or what FSRemove gives for its path.
+// So an entry is looked at only then, or when it does not go at once, or when GetFileInfo may
+// refuse it: for a name that is not UTF-8, or a path that is too long, for which there is `room`
+// for so many bytes behind `path`. Result: 0, or what FSRemove gives for its path.
 int RemoveEntry(DIR* dir, ustring const& path, long room, dirent const& entry) {
-    room -= static_cast<long>(std::strlen(entry.d_name)) + 1;
+    const unsigned long length = std::strlen(entry.d_name);
+    room -= static_cast<long>(length) + 1;
     int result = 1;
-    if (room > 0 && !Logger::Passes(Logger::LEVEL_DEBUG, kLogComponent)) {
+    if (room > 0 && !Logger::Passes(Logger::LEVEL_DEBUG, kLogComponent) &&
+        (IsAscii(entry.d_name, length) || ustring::is_valid(entry.d_name))) {
         if (entry.d_type == DT_DIR) {
             result = RemoveDirectory(dir, entry.d_name, Child(path, entry.d_name), room);
         } else if (entry.d_type != DT_UNKNOWN) {
