@@ -34,11 +34,13 @@ install_packages() {
   "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -qq -y --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# build PRESET
+# build PRESET [TARGET...]: everything, or these targets.
 build() {
-  say "Building ($1)"
-  cmake --preset "$1" >/dev/null
-  cmake --build --preset "$1"
+  local preset=$1
+  shift
+  say "Building ($preset)"
+  cmake --preset "$preset" >/dev/null
+  cmake --build --preset "$preset" ${1:+--target "$@"}
 }
 
 # make_bundle BUILD_DIR CLIENT_DIR BUILD_NUMBER OUTPUT

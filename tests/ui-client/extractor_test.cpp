@@ -39,6 +39,7 @@ void MakeArchive(const std::string& path, const std::vector<Entry>& entries,
         archive_entry* const header = archive_entry_new();
         archive_entry_set_pathname(header, name.c_str());
         archive_entry_set_mode(header, (mode == kHardLink ? S_IFREG : mode) | 0755);
+        archive_entry_set_rdevmajor(header, 1);  // overlayfs refuses 0, 0
         archive_entry_set_hardlink(header, mode == kHardLink ? content.c_str() : nullptr);
         if (mode == S_IFLNK) {
             archive_entry_set_symlink(header, content.c_str());
@@ -70,6 +71,7 @@ Tree Look(const std::string& directory) {
 class ExtractorTest : public ServiceTest {
   protected:
     ExtractorTest() {
+        setlocale(LC_CTYPE, "C.UTF-8");  // names are UTF-8, whatever the environment says
         extractor.m_source = (home / "archive").c_str();
         extractor.m_dest = (home / "dest").c_str();
     }
