@@ -79,12 +79,14 @@ void PrintTo(const Scenario& row, std::ostream* out) {
 }
 
 enum Power { kStays, kFails, kFailsAfterTheVersion };
+enum Event { kNothing, kPackageIsCut, kPackageIsReplaced, kPackageIsRewritten, kHomeIsLost };
 
 struct Fault {
     int answer = kGoOn;
-    bool onward = false;   // at all later calls too
-    Power power = kStays;  // as the run ends; files that were not flushed are empty then
-    int again = 0;         // the next run is killed as well, at this multiple of the call
+    bool onward = false;     // at all later calls too
+    Power power = kStays;    // as the run ends; files that were not flushed are empty then
+    int again = 0;           // the next run is killed as well, at this multiple of the call
+    Event event = kNothing;  // before the call, which is made
 };
 
 // An EINTR without an end is no failure that there is, and libarchive asks again.
@@ -95,6 +97,10 @@ std::vector<Fault> AllFaults() {
                               {kKillBefore, false, kStays, 7},
                               {kKillBefore, false, kFails, 31},
                               {-EINTR}};
+    for (const Event event :
+         {kPackageIsCut, kPackageIsReplaced, kPackageIsRewritten, kHomeIsLost}) {
+        faults.push_back({kGoOn, false, kStays, 0, event});
+    }
     for (const int answer : {-ENOSPC, -EIO, -EACCES, -EMFILE, -EDQUOT, -ESTALE, +kHalfOfTheWrite}) {
         faults.push_back({answer});
         faults.push_back({answer, true});
@@ -121,11 +127,25 @@ User Next(User user, Package package) {
     return user;
 }
 
+std::string KindOf(const fs::path& directory) {
+    PackageEntries entries;
+    bool version = false;
+    for (const auto& file : fs::recursive_directory_iterator(directory)) {
+        const std::string path = file.path().lexically_relative(directory);
+        const std::string content = file.is_directory() ? "" : ReadFile(file.path());
+        entries.emplace_back(file.is_directory() ? path + "/" : path, content);
+        version = version || (path == kInfo && content.find("build_version=") != content.npos);
+    }
+    std::sort(entries.begin(), entries.end());
+    const auto kind = std::find_if(kKinds.begin(), kKinds.end(),
+                                   [&](const auto& row) { return row.second == entries; });
+    return kind != kKinds.end() ? kind->first : version ? "torn, with a version" : "torn";
+}
+
 class Faults : public testing::TestWithParam<Scenario> {
   protected:
     void Offer(Package package) {
-        const std::string whole = Pack(kKinds.at("new"));
-        world_.Offer(2, package == kCutShort ? whole.substr(0, whole.size() * 4 / 5) : whole);
+        world_.Offer(2, package == kCutShort ? whole_.substr(0, whole_.size() * 4 / 5) : whole_);
         package_ = package;
     }
 
@@ -143,22 +163,6 @@ class Faults : public testing::TestWithParam<Scenario> {
                 fs::permissions(directory / path, fs::perms(0755));
             }
         }
-    }
-
-    static std::string KindOf(const fs::path& directory) {
-        PackageEntries entries;
-        bool version = false;
-        for (const auto& file : fs::recursive_directory_iterator(directory)) {
-            const std::string path = file.path().lexically_relative(directory);
-            const std::string content = file.is_directory() ? "" : ReadFile(file.path());
-            entries.emplace_back(file.is_directory() ? path + "/" : path, content);
-            version =
-                version || (path == kInfo && content.find("build_version=") + 14 < content.size());
-        }
-        std::sort(entries.begin(), entries.end());
-        const auto kind = std::find_if(kKinds.begin(), kKinds.end(),
-                                       [&](const auto& row) { return row.second == entries; });
-        return kind != kKinds.end() ? kind->first : version ? "torn, with a version" : "torn";
     }
 
     User Get() const {
@@ -182,8 +186,17 @@ class Faults : public testing::TestWithParam<Scenario> {
         const int ended = RunSupervised(world_, places, [&](const FileCall& call) {
             const bool hit = ++calls_ == at || (calls_ > at && fault.onward);
             const bool fit = fault.answer != kHalfOfTheWrite || call.what == kWrite;
+            if (hit) {
+                Happen(fault.event);
+            }
             return hit && fit && fault.answer != kGoOn ? fault.answer : Note(call, at == 0);
         });
+        if (fault.event == kHomeIsLost) {
+            fs::remove_all(world_.Home());  // one that the launcher has made
+            fs::rename(world_.dir / "lost", world_.Home());
+        } else if (fault.event != kNothing) {
+            Offer(package_);
+        }
         const bool killed = fault.answer == kKillBefore && calls_ >= at;
         EXPECT_EQ(ended, killed ? -1 : 0);
         for (const std::string& path : unflushed_) {
@@ -202,10 +215,25 @@ class Faults : public testing::TestWithParam<Scenario> {
             << "no whole copy is left";
         EXPECT_NE(now[kApp], "torn, with a version");
         const std::string opened = ReadFile(world_.Home() + "/opened");
-        EXPECT_TRUE(killed || now[kApp] != "old" || opened == "1\n");
-        EXPECT_TRUE(killed || now[kApp] != "new" || opened == "2\n");
+        const bool opens = !killed && fault.event != kHomeIsLost;
+        EXPECT_TRUE(!opens || now[kApp] != "old" || opened == "1\n");
+        EXPECT_TRUE(!opens || now[kApp] != "new" || opened == "2\n");
         for (const auto& [name, kind] : start_) {
             EXPECT_TRUE(kind != "somebody's" || now[name] == kind) << name;
+        }
+    }
+
+    // The package becomes another, whole one, or half of itself.
+    void Happen(Event event) const {
+        const std::string package = world_.Bundle() + "/Contents/Resources/package/quillmere.qpk";
+        if (event == kPackageIsCut) {
+            fs::resize_file(package, fs::file_size(package) / 2);
+        } else if (event == kPackageIsReplaced || event == kPackageIsRewritten) {
+            const std::string path = event == kPackageIsReplaced ? package + ".part" : package;
+            WriteFile(path, other_);
+            fs::rename(path, package);
+        } else if (event == kHomeIsLost) {
+            fs::rename(world_.Home(), world_.dir / "lost");
         }
     }
 
@@ -249,6 +277,8 @@ class Faults : public testing::TestWithParam<Scenario> {
 
     std::string InfoPath() const { return world_.App() + "/" + kInfo; }
 
+    const std::string whole_ = Pack(kKinds.at("new"));
+    const std::string other_ = Pack(kKinds.at("old"));
     World world_;
     User start_ = GetParam().start;
     Package package_ = kGood;
@@ -292,6 +322,29 @@ TEST_P(Faults, LoseNothingAndTheNextRunMendsThem) {
         }
     }
     std::cout << calls << " calls, " << points << " points\n";
+}
+
+// The lock holds whatever the session says of its directories, and outlives no process.
+TEST(Starts, AtOnceAndKilledAtRandom) {
+    World world;
+    std::minstd_rand random(1);
+    for (int build = 1; build <= 2; ++build) {
+        world.Offer(build, Pack(kKinds.at(build == 1 ? "old" : "new")));
+        std::vector<std::unique_ptr<QProcess>> starts;
+        for (int start = 0; start < 30; ++start) {
+            world.environment.insert("XDG_RUNTIME_DIR", start % 2 == 0 ? "/nowhere" : "/tmp");
+            starts.push_back(world.Start());
+            if (random() % 3 == 0) {
+                starts[random() % starts.size()]->kill();
+            }
+        }
+        for (const auto& start : starts) {
+            start->waitForFinished();
+            EXPECT_TRUE(start->exitStatus() == QProcess::CrashExit || start->exitCode() == 0);
+        }
+        EXPECT_EQ(world.Launch().exit_code, 0);
+        EXPECT_EQ(KindOf(world.App()), build == 1 ? "old" : "new");
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(In, Faults, testing::ValuesIn(kScenarios),
