@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QEventLoop>
+#include <QFont>
 #include <QSettings>
 #include <QStringList>
 #include <QStyle>
@@ -21,6 +22,7 @@
 #include "platform/desktop/utf8-names.h"
 #include "platform/files/file-lock.h"
 #include "ui-client/launcher/launcher.h"
+#include "ui-client/launcher/processing-progress-dialog.h"
 #include "ui-client/launcher/qt-text.h"
 #include "ui-client/launcher/quillmere-service.h"
 #include "ui-client/launcher/str-table.h"
@@ -73,6 +75,14 @@ void UseLightColours() {
     QApplication::setPalette(fusion->standardPalette());
 }
 
+// The window's font is known to Qt before the window is: looking for the session's font first, to no
+// use, takes as long as all the rest of the window but for the list of fonts.
+void UseFontOfWindow() {
+    QFont font = QApplication::font();
+    font.setFamily(kWindowFontFamily);
+    QApplication::setFont(font);
+}
+
 // An instance is known by its bundle; this lock is one for all bundles, in the directory that they
 // would change. It also finds the instance that had to do without the application object's lock.
 // Result: false when the same bundle is at work there. Waits for another one.
@@ -96,6 +106,7 @@ int Run(GuiEnvironment& environment) {
     SetUpLanguage(translator, resource);
     StrTable::InitStrTable();
     UseLightColours();
+    UseFontOfWindow();
     Launcher* const launcher = new Launcher;
     launcher->Run();
     if (launcher->HasThread()) {

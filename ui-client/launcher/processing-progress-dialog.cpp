@@ -12,7 +12,7 @@
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags()) {
     // The base would show itself after its minimum duration, on a slow run with nothing to show.
     setMinimumDuration(std::numeric_limits<int>::max());
-    const QFont font("Arial", -1, -1, false);
+    const QFont font(kWindowFontFamily, -1, -1, false);
     const ustring icon =
         Service::GetRootQuillmereResourceInstallPath() + "/images/ico_72_quillmere.png";
     setWindowTitle(StrTable::LoadStr(StrTable::kAppName));

@@ -3,6 +3,8 @@
 
 #include <QProgressDialog>
 
+constexpr char kWindowFontFamily[] = "Arial";
+
 // A small progress window from 0 to 100, hidden until it is shown. Main thread, like every widget.
 class ProcessingProgressDialog : public QProgressDialog {
     Q_OBJECT
