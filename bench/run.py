@@ -197,9 +197,9 @@ class Bench:
                 settle(place)
                 return run(*command, str(parent / "tree"))
 
-        spent = in_turn(rounds, ours=lambda: removing(self.tool("bench-files"), "remove"),
+        spent = in_turn(rounds, ours=lambda: removing(self.tool("bench-remove"), "ours"),
                         rm=lambda: removing("rm", "-rf"),
-                        standard=lambda: removing(self.tool("bench-files"), "remove-all"))
+                        standard=lambda: removing(self.tool("bench-remove"), "standard"))
         walls = {side: [one.wall for one in runs] for side, runs in spent.items()}
         self.table.add(row, "10,000 files, wall", walls["ours"], walls["rm"], "ms", "rm -rf", target=1.10)
         self.table.add(row, "10,000 files, wall", walls["ours"], walls["standard"], "ms",
@@ -215,8 +215,8 @@ class Bench:
                 settle(WORK)
                 return run(*command, str(tree), str(parent / "copy"))
 
-        spent = in_turn(rounds, ours=lambda: copying(self.tool("bench-copy-path")),
-                        plain=lambda: copying(self.tool("bench-files"), "copy"), cp=lambda: copying("cp", "-r"))
+        spent = in_turn(rounds, ours=lambda: copying(self.tool("bench-copy"), "ours"),
+                        plain=lambda: copying(self.tool("bench-copy"), "plain"), cp=lambda: copying("cp", "-r"))
         walls = {side: [one.wall for one in runs] for side, runs in spent.items()}
         self.table.add(row, "1,000 files, wall", walls["ours"], walls["plain"], "ms",
                        "read, write and fsync each", target=1.05)
