@@ -75,8 +75,8 @@ void UseLightColours() {
     QApplication::setPalette(fusion->standardPalette());
 }
 
-// The window's font is known to Qt before the window is: looking for the session's font first, to no
-// use, takes as long as all the rest of the window but for the list of fonts.
+// The window's font is known to Qt before the window is: looking for the session's font first, to
+// no use, takes as long as all the rest of the window but for the list of fonts.
 void UseFontOfWindow() {
     QFont font = QApplication::font();
     font.setFamily(kWindowFontFamily);
