@@ -251,7 +251,9 @@ TEST(Launch, PidFileThatNamesNoClientHarmsNobody) {
     // Somebody else's process is waited for and stays, and the upgrade goes on.
     WriteFile(world.User() + "/ui.pid", "pid=" + std::to_string(getpid()) + "\n");
     world.Offer(build);
-    EXPECT_TRUE(EndedWell(world.Finish(*world.Start(become_loner))));
+    const Outcome waited = world.Finish(*world.Start(become_loner));
+    EXPECT_TRUE(EndedWell(waited));
+    EXPECT_GT(waited.milliseconds, 4000);
     EXPECT_EQ(world.Installed(), std::to_string(build));
     EXPECT_TRUE(Contains(world.Log(), ": kill: Operation not permitted (1)\n"));
     Kill(world.WaitForClient(getpid()));

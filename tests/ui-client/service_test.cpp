@@ -204,6 +204,12 @@ TEST_F(ServiceTest, CopiesTrees) {
     EXPECT_EQ(LogLines("FSCopyPath: failed to stat source ''"), 1);
 }
 
+TEST_F(ServiceTest, NothingStandsBelowAFile) {
+    WriteFile(home / ".Quillmere", "");
+    EXPECT_EQ(MacService().PrepareUserEnv(), -1);
+    EXPECT_EQ(LogLines(": failed to create folder: '"), 1);
+}
+
 TEST_F(ServiceTest, WithoutPermission) {
     if (getuid() != 0) {
         GTEST_SKIP() << "needs root to become another user";
@@ -221,8 +227,22 @@ TEST_F(ServiceTest, WithoutPermission) {
     EXPECT_EQ(ReadFile(home / "to/open"), "open");
     EXPECT_TRUE(fs::is_empty(home / "to/closed"));
     EXPECT_EQ(LogLines("[WARNING] quillmere-service("), 1);
-    // Where nothing can be seen, there may be a copy.
+    // What cannot be removed in a rollback has no version at least. Most of it stands in the way.
     WriteFile(App() + "/mark", "old");
+    fs::permissions(home / ".Quillmere", fs::perms::all);
+    FakeExtraction stuck([] {
+        WriteFile(App() + kInfo, "");
+        for (int number = 0; number < 20; ++number) {
+            WriteFile(App() + "/Contents/" + std::to_string(number), "");
+        }
+        fs::permissions(App() + "/Contents", fs::perms::owner_read | fs::perms::owner_exec);
+        return -1;
+    });
+    EXPECT_EQ(AsNobody([&] { return -stuck.PrepareUserEnv(); }), 1);
+    EXPECT_EQ(ReadFile(App() + "_tmp/mark"), "old");
+    EXPECT_TRUE(fs::exists(App() + "/Contents/Resources"));
+    EXPECT_FALSE(fs::exists(App() + kInfo));
+    // Where nothing can be seen, there may be a copy.
     fs::permissions(home / ".Quillmere", fs::perms::none);
     EXPECT_EQ(AsNobody([&] { return -service.PrepareUserEnv(); }), 1);
     EXPECT_EQ(LogLines("Quillmere.app_tmp9' at max retries, exiting\n"), 1);
