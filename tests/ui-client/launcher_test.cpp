@@ -11,7 +11,6 @@
 #include <cstring>
 #include <memory>
 
-#include "temp_dir.h"
 #include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/launcher/processing-progress-dialog.h"
 #include "ui-client/launcher/str-table.h"
@@ -42,6 +41,25 @@ class Replacement : public QTranslator {
         return qstrcmp(context, "global") == 0 ? R"(a\nb\tc\xd %1)" : QString();
     }
 };
+
+// What main sets up.
+class Setting : public testing::Environment {
+  public:
+    void SetUp() override {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        application_ = std::make_unique<QApplication>(argc_, argv_);
+        qInitResources_texts();
+        StrTable::InitStrTable();
+    }
+    void TearDown() override { application_.reset(); }
+
+  private:
+    char name_[14] = "launcher-test";
+    char* argv_[2] = {name_, nullptr};
+    int argc_ = 1;
+    std::unique_ptr<QApplication> application_;
+};
+const auto* const g_setting = testing::AddGlobalTestEnvironment(new Setting);
 
 }  // namespace
 
@@ -140,15 +158,4 @@ TEST(Languages, TranslationsOfEach) {
         EXPECT_TRUE(code != "deu" ||
                     shown == "Quillmere Drive wird initialisiert ...Quillmere Drive ist bereit.");
     }
-}
-
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    const TempDir runtime;
-    qputenv("XDG_RUNTIME_DIR", runtime.path().c_str());
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    qInitResources_texts();
-    StrTable::InitStrTable();
-    return RUN_ALL_TESTS();
 }
