@@ -49,7 +49,7 @@ bool Fits(unsigned long capacity, unsigned long need) {
 
 template <class Unit>
 void Fit(Unit*& block, unsigned long& capacity, unsigned long need) {
-    if (Fits(capacity, need)) {
+    if (block != nullptr && Fits(capacity, need)) {
         return;
     }
     if (need > ustring::npos / sizeof(Unit)) {
