@@ -107,7 +107,7 @@ TEST(UstringChangeTest, EachChangeLeavesItsTextAndItsView) {
 
 TEST(UstringConversionTest, WhatCannotBeConvertedIsToldAndLeavesAnEmptyText) {
     CerrCapture cerr;
-    for (char const* text : {"\xFF", "a\x80", "\xC3", "\xED\xA0\x80", "\xF4\x90\x80\x80"}) {
+    for (char const* text : {"\xFF", "\x80", "a\x80", "\xC3", "\xED\xA0\x80", "\xF4\x90\x80\x80"}) {
         SCOPED_TRACE(testing::PrintToString(text));
         cerr.str("");
         ustring s(text);
@@ -127,6 +127,7 @@ TEST(UstringConversionTest, WhatCannotBeConvertedIsToldAndLeavesAnEmptyText) {
 
 TEST(UstringConversionTest, GoesBothWaysAndNormalises) {
     const unsigned short units[] = {'a', 0xE9, 0x6F22, 0xD83D, 0xDE00, 0};
+    EXPECT_EQ(Text(ustring("a") += static_cast<unsigned short>(0x80)), "a\u0080");
     EXPECT_EQ(Text(units), "aé漢😀");
     EXPECT_EQ(Utf16("aé漢😀"), u"aé漢😀");
     EXPECT_TRUE(ustring::is_valid("aé漢😀") && ustring::is_valid(""));
@@ -183,6 +184,10 @@ TEST(UstringSearchTest, NulInsideTheLength) {
     EXPECT_EQ(s.length(), 8u);
     EXPECT_TRUE(s == "ab" && s.compare("ab", 9) == 0 && Text(ustring(s)) == "ab");
     EXPECT_EQ(Utf16(s), u"ab");
+    ustring other("ab");
+    other.append('\0', 6).append("behind");
+    EXPECT_EQ((other + s).length(), 4u);
+    EXPECT_EQ(ustring("ab").append('\0', 6).append("other").compare(other), 0);
 }
 
 TEST(UstringCompareTest, GivesTheDifferenceOfTheFirstBytesThatDiffer) {
@@ -205,6 +210,10 @@ TEST(UstringCompareTest, GivesTheDifferenceOfTheFirstBytesThatDiffer) {
     }
     EXPECT_EQ(ustring("abc").compare("abd", 2), 0);
     EXPECT_EQ(ustring("abc").compare("abd", 3), -1);
+    // Longer than what is looked at in one piece.
+    EXPECT_EQ(ustring("01234567A").compare("01234567B"), -1);
+    EXPECT_EQ(ustring("01234567/").compare("01234567"), 47);
+    EXPECT_EQ(ustring("01234567").compare("0123456X", 7), 0);
 }
 
 TEST(UstringStreamTest, ReadsTokensAndWritesBytes) {
