@@ -50,13 +50,25 @@ Platforms WantedPlatforms() {
     return platforms;
 }
 
+// The size of windows, in pixels, follows the resolution; that of text does in any case. Nothing is
+// drawn at odd scales where the resolution is about the usual 96.
+void FollowResolution(double resolution) {
+    if (resolution > 1.1 * 96) {
+        QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+        QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+            Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    }
+}
+
 Platforms PlatformsToTry(SessionWatch& watch) {
     Platforms platforms = WantedPlatforms();
     if (platforms != Platforms{kOffscreen}) {
         const bool wants_x11 = std::any_of(platforms.cbegin(), platforms.cend(), IsX11);
-        if (!watch.Begin(wants_x11)) {
+        const SessionWatch::Display display = watch.Begin(wants_x11);
+        if (!display.answers) {
             RemoveIf(platforms, IsX11);
         }
+        FollowResolution(display.resolution);
         if (!watch.IsOn()) {
             RemoveIf(platforms, IsOfTheSession);
         }
@@ -132,14 +144,6 @@ class Variables {
     std::vector<Variable> former_;
 };
 
-// A screen of twice the usual resolution shows a window of twice the size, in pixels, and any step
-// between counts.
-void FollowResolution() {
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-}
-
 }  // namespace
 
 struct GuiEnvironment::Parts {
@@ -148,7 +152,6 @@ struct GuiEnvironment::Parts {
 };
 
 GuiEnvironment::GuiEnvironment(const QString& library_path, char** argv) : parts_(new Parts) {
-    FollowResolution();
     const Without without = PrepareStartOver(argv);
     RunGuard::Arm();
     if (without == Without::kDisplay) {

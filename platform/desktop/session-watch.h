@@ -10,11 +10,16 @@
 // display, when a step of the main thread takes too long. Made and used on the main thread.
 class SessionWatch {
   public:
-    // Begins to watch, where a thread can be had. Result: whether `wants_x11` and the X display
-    // that $DISPLAY names has taken this user. A display that leaves the question open for 3
-    // seconds is given up by StartOver. The connection stays open while there is watching, since
-    // some servers start over when their last client goes.
-    bool Begin(bool wants_x11);
+    struct Display {
+        bool answers = false;
+        double resolution = 0;  // dots per inch, as the user has set it or as the screen has it
+    };
+
+    // Begins to watch, where a thread can be had. Result: of the X display that $DISPLAY names,
+    // which answers when `wants_x11` and it has taken this user. One that leaves the question open
+    // for 3 seconds is given up by StartOver. The connection stays open while there is watching,
+    // since some servers start over when their last client goes.
+    Display Begin(bool wants_x11);
     // Whether there is a thread that watches.
     bool IsOn() const { return thread_.joinable(); }
 
