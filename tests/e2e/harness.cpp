@@ -1,11 +1,9 @@
 // Bundles, homes and runs for the end-to-end tests.
 #include "e2e/harness.h"
 
-#include <archive.h>
-#include <archive_entry.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
+#include <QRegularExpression>
 #include <chrono>
 #include <thread>
 
@@ -13,74 +11,63 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr char kInfo[] = "/Contents/Resources/INFO";
+
 std::string Info(int build) {
     return "[Version]\nmajor_version=1\nminor_version=0\nbuild_version=" + std::to_string(build) +
            "\nicon_overlay_version=1\n";
 }
 
-class ChildProcess : public QProcess {
-  public:
-    explicit ChildProcess(const std::function<void()>& in_child) : in_child_(in_child) {}
-
-  protected:
-    void setupChildProcess() override {
-        if (in_child_) {
-            in_child_();
-        }
-    }
-
-  private:
-    std::function<void()> in_child_;
+struct ChildProcess : QProcess {
+    explicit ChildProcess(const std::function<void()>& action) : in_child(action) {}
+    void setupChildProcess() override { in_child(); }
+    std::function<void()> in_child;
 };
-
-void Collect(const fs::path& name, const std::string& content, archive* writer) {
-    const bool directory = name.filename().empty();
-    archive_entry* const entry = archive_entry_new();
-    archive_entry_set_pathname(entry, name.c_str());
-    archive_entry_set_mode(entry, directory ? S_IFDIR | 0755 : S_IFREG | 0755);
-    archive_entry_set_size(entry, static_cast<la_int64_t>(content.size()));
-    archive_write_header(writer, entry);
-    archive_write_data(writer, content.data(), content.size());
-    archive_entry_free(entry);
-}
 
 }  // namespace
 
-PackageEntries ClientPackage(int build, const PackageEntries& extra) {
-    PackageEntries entries{{"Contents/MacOS/quillmere-ui", ReadFile(SAMPLE_CLIENT)}};
+const std::string kLightClient = R"(#!/bin/sh
+[ "$1" != --ignore-sigterm ] || trap "" TERM
+echo "pid=$$" >"$HOME/.Quillmere/ui.new" && mv "$HOME/.Quillmere/ui.new" "$HOME/.Quillmere/ui.pid"
+exec sleep 1000
+)";
+
+PackageEntries ClientPackage(int build, const PackageEntries& extra, const std::string& client) {
+    PackageEntries entries{{"Contents/MacOS/quillmere-ui", client}};
     entries.insert(entries.end(), extra.begin(), extra.end());
-    entries.push_back({"Contents/Resources/INFO", Info(build)});
+    entries.push_back({kInfo + 1, Info(build)});
     return entries;
 }
 
 std::string Pack(const PackageEntries& entries) {
-    setlocale(LC_CTYPE, "C.UTF-8");
     const TempDir scratch;
-    const std::string path = scratch / "package";
-    archive* const writer = archive_write_new();
-    archive_write_add_filter_program(writer, "zstd -q --check -c");
-    archive_write_set_format_pax_restricted(writer);
-    archive_write_open_filename(writer, path.c_str());
-    for (const auto& entry : entries) {
-        Collect(entry.first, entry.second, writer);
+    QProcess tar;
+    tar.setWorkingDirectory(QString::fromStdString(scratch.path()));
+    tar.start("tar", {"-c", "-I", "zstd -q --check", "--mode=755", "--no-recursion", "-T", "-"});
+    for (const auto& [name, content] : entries) {
+        if (name.back() == '/') {
+            fs::create_directories(scratch / name);
+        } else {
+            WriteFile(scratch / name, content);
+        }
+        tar.write((name + "\n").c_str());
     }
-    archive_write_close(writer);
-    archive_write_free(writer);
-    return ReadFile(path);
+    tar.closeWriteChannel();
+    EXPECT_TRUE(tar.waitForFinished());
+    return tar.readAllStandardOutput().toStdString();
 }
 
 World::World(const std::string& name)
     : home_name(name), environment(QProcessEnvironment::systemEnvironment()) {
     fs::create_directories(Home());
     fs::create_directories(Bundle() + "/Contents/MacOS");
-    fs::create_directories(Bundle() + "/Contents/Frameworks");
+    fs::create_directories(Plugins());
     fs::copy_file(LAUNCHER, LauncherPath());
-    fs::create_directory_symlink(QT_PLUGINS, Bundle() + "/Contents/Frameworks/plugins");
-    // A socket's path is short, and so must be this one.
-    fs::create_directories(dir / "run");
+    fs::create_directory_symlink(QT_PLUGINS "/platforms", Plugins() + "/platforms");
+    fs::create_directory(dir / "run");
     fs::permissions(dir / "run", fs::perms::owner_all);
-    for (const char* const name_to_clear : {"DISPLAY", "WAYLAND_DISPLAY", "LC_ALL", "LANGUAGE"}) {
-        environment.remove(name_to_clear);
+    for (const char* const variable : {"DISPLAY", "WAYLAND_DISPLAY", "LC_ALL", "LANGUAGE"}) {
+        environment.remove(variable);
     }
     environment.insert("HOME", QString::fromStdString(Home()));
     environment.insert("XDG_RUNTIME_DIR", QString::fromStdString(dir / "run"));
@@ -88,16 +75,39 @@ World::World(const std::string& name)
     environment.insert("LANG", "C.UTF-8");
 }
 
+// Their environment tells which processes have to do with this directory (proc(5)).
 World::~World() {
-    const pid_t client = ClientPid();
-    if (client > 1 && IsAlive(client)) {
-        Kill(client);
+    for (const auto& process : fs::directory_iterator("/proc")) {
+        const pid_t pid = std::atoi(process.path().filename().c_str());
+        if (pid > 1 && Contains(ReadFile(process.path() / "environ"), "=" + dir.path())) {
+            Kill(pid);
+        }
+    }
+    for (const std::string& lock : Locks()) {
+        fs::remove(lock);
     }
 }
 
+std::vector<std::string> World::Locks() const {
+    std::vector<std::string> locks;
+    for (const auto& file : fs::directory_iterator("/tmp")) {
+        const std::string path = file.path();
+        if (Contains(path, "/quillmere-launcher-") && Contains(ReadFile(path), dir.path())) {
+            locks.push_back(path);
+        }
+    }
+    return locks;
+}
+
 void World::Offer(int build, const std::string& package) {
-    WriteFile(Bundle() + "/Contents/Resources/INFO", Info(build));
+    WriteFile(Bundle() + kInfo, Info(build));
     WriteFile(Bundle() + "/Contents/Resources/package/quillmere.qpk", package);
+}
+
+void World::Have(int build) const {
+    WriteFile(Client(), kLightClient);
+    fs::permissions(Client(), fs::perms(0755));
+    WriteFile(App() + kInfo, Info(build));
 }
 
 void World::LogEverything() {
@@ -107,7 +117,7 @@ void World::LogEverything() {
 
 std::unique_ptr<QProcess> World::Start(const std::function<void()>& in_child,
                                        const QStringList& arguments) const {
-    std::unique_ptr<QProcess> process(new ChildProcess(in_child));
+    auto process = std::make_unique<ChildProcess>(in_child);
     process->setProcessEnvironment(environment);
     process->start(QString::fromStdString(program.empty() ? LauncherPath() : program), arguments);
     process->waitForStarted();
@@ -117,13 +127,10 @@ std::unique_ptr<QProcess> World::Start(const std::function<void()>& in_child,
 Outcome World::Finish(QProcess& process) const {
     QElapsedTimer timer;
     timer.start();
-    Outcome run;
-    run.normal = process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit;
-    run.exit_code = process.exitCode();
-    run.milliseconds = timer.elapsed();
-    run.out = process.readAllStandardOutput().toStdString();
-    run.err = process.readAllStandardError().toStdString();
-    return run;
+    const bool ended = process.waitForFinished(60000);
+    return {process.exitCode(), ended && process.exitStatus() == QProcess::NormalExit,
+            timer.elapsed(), process.readAllStandardOutput().toStdString(),
+            process.readAllStandardError().toStdString()};
 }
 
 pid_t World::ClientPid() const {
@@ -131,30 +138,37 @@ pid_t World::ClientPid() const {
     return line.rfind("pid=", 0) == 0 ? std::atoi(line.c_str() + 4) : 0;
 }
 
-pid_t World::WaitForClient(pid_t former) const {
-    const auto there = [&] {
-        return ClientPid() > 1 && ClientPid() != former && IsAlive(ClientPid());
-    };
-    return WaitFor(there) ? ClientPid() : 0;
-}
-
-pid_t World::StartClient(const QStringList& arguments) const {
-    QProcess client;
-    client.setProcessEnvironment(environment);
-    client.setProgram(QString::fromStdString(App() + "/Contents/MacOS/quillmere-ui"));
-    client.setArguments(arguments);
-    const pid_t former = ClientPid();
-    client.startDetached();
-    return WaitForClient(former);
+pid_t World::WaitForClient() const {
+    return WaitFor([this] { return ClientPid() > 1 && IsAlive(ClientPid()); }) ? ClientPid() : 0;
 }
 
 std::string World::Installed() const {
-    const std::string info = ReadFile(App() + "/Contents/Resources/INFO");
-    const std::string key = "build_version=";
-    const std::size_t at = info.find(key);
-    return at == std::string::npos
-               ? ""
-               : info.substr(at + key.size(), info.find('\n', at) - at - key.size());
+    const QRegularExpression build("build_version=(\\d+)");
+    return build.match(QString::fromStdString(ReadFile(App() + kInfo))).captured(1).toStdString();
+}
+
+testing::AssertionResult EndedWell(const Outcome& run) {
+    return testing::AssertionResult(run.normal && run.exit_code == 0)
+           << (run.normal ? "exit code " : "signal ") << run.exit_code << "\n"
+           << run.err;
+}
+
+testing::AssertionResult Succeeded(const Outcome& run, const World& world, int build) {
+    std::string copies;
+    for (const auto& entry : fs::directory_iterator(world.User())) {
+        copies +=
+            entry.path().filename().string().rfind("Quillmere.app", 0) == 0 ? entry.path() : "";
+    }
+    return testing::AssertionResult(EndedWell(run) && copies == world.App() &&
+                                    world.Installed() == std::to_string(build) &&
+                                    world.WaitForClient() != 0)
+           << EndedWell(run).message() << copies << ", build " << world.Installed() << ", client "
+           << world.ClientPid() << "\n"
+           << world.Log();
+}
+
+bool Contains(const std::string& text, const std::string& part) {
+    return text.find(part) != std::string::npos;
 }
 
 bool WaitFor(const std::function<bool()>& condition, int seconds) {
@@ -179,4 +193,12 @@ void Kill(pid_t pid) {
     ASSERT_GT(pid, 1) << "no process";
     kill(pid, SIGKILL);
     WaitFor([pid] { return !IsAlive(pid); });
+}
+
+const uid_t kLoner = 100000 + static_cast<uid_t>(getpid());
+
+void BecomeLoner() {
+    if (setgid(kLoner) != 0 || setuid(kLoner) != 0) {
+        _exit(99);
+    }
 }

@@ -1,0 +1,67 @@
+// Xvfb, openbox and xdotool; the gate and the spy.
+#include "e2e/desktop.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include "unique-fd.h"
+
+namespace fs = std::filesystem;
+
+Desktop::Desktop(int resolution) {
+    server_.start("Xvfb", {"-displayfd", "1", "-noreset", "-listen", "tcp", "-screen", "0",
+                           "1280x800x24", "-dpi", QString::number(resolution)});
+    EXPECT_TRUE(WaitFor([&] { return server_.canReadLine() || server_.waitForReadyRead(100); }));
+    display_ = ":" + server_.readLine().trimmed();
+    manager_.start("env", {"DISPLAY=" + display_, "openbox", "--startup", "echo ready"});
+    EXPECT_TRUE(manager_.waitForReadyRead());
+}
+
+Desktop::~Desktop() {
+    KillWindowManager();
+    server_.kill();
+    server_.waitForFinished();
+}
+
+void Desktop::Show(World& world) const {
+    world.environment.remove("QT_QPA_PLATFORM");
+    world.environment.insert("DISPLAY", display_);
+}
+
+QString Desktop::Do(const QStringList& words) const {
+    QProcess process;
+    process.start("env", QStringList{"DISPLAY=" + display_, "xdotool"} + words);
+    process.waitForFinished();
+    return process.readAllStandardOutput().trimmed();
+}
+
+QString Desktop::Window(const QProcess& owner) const {
+    return Do({"search", "--onlyvisible", "--pid", QString::number(owner.processId())});
+}
+
+void Desktop::KillWindowManager() {
+    manager_.kill();
+    manager_.waitForFinished();
+}
+
+void CloseGate(const World& world) {
+    fs::create_directories(world.User());
+    EXPECT_EQ(mkfifo((world.User() + "/ui.pid").c_str(), S_IRUSR | S_IWUSR), 0);
+}
+
+void OpenGate(const World& world) {
+    const std::string gate = world.User() + "/ui.pid";
+    EXPECT_TRUE(
+        WaitFor([&] { return UniqueFd(open(gate.c_str(), O_WRONLY | O_NONBLOCK)).valid(); }));
+    fs::remove(gate);
+}
+
+void Spy(World& world, const char* how) {
+    fs::create_directory_symlink(SPY_DIRECTORY, world.Plugins() + "/generic");
+    world.environment.insert("QT_QPA_GENERIC_PLUGINS", how);
+}
+
+std::string Told(const Outcome& run) {
+    QStringList told = QString::fromStdString(run.err).split('\n').filter(QRegExp("^window: "));
+    return told.replaceInStrings("window: ", "").join('\n').toStdString();
+}

@@ -1,0 +1,81 @@
+// Tells on standard error what the progress window does, from inside the launcher: a plug-in that
+// Qt loads for QT_QPA_GENERIC_PLUGINS=spy. With "spy:exit" it ends the process, as Qt does when a
+// display goes while the application object is built.
+#include <QApplication>
+#include <QDir>
+#include <QEvent>
+#include <QGenericPlugin>
+#include <QIcon>
+#include <QLabel>
+#include <QProgressBar>
+#include <QProgressDialog>
+#include <QTranslator>
+#include <cstdio>
+
+namespace {
+
+void Tell(const QString& line) {
+    std::fprintf(stderr, "window: %s\n", line.toUtf8().constData());
+}
+
+// The languages of which a text does not fit between the margins.
+QString CutOff(const QLabel& label) {
+    QString cut;
+    for (const QString& file : QDir(":/").entryList({"???.qm"})) {
+        QTranslator language;
+        language.load(":/" + file);
+        for (const char* const text :
+             {"Quillmere Drive is initializing...", "Quillmere Drive is ready."}) {
+            const QString shown = language.translate("global", text);
+            const int width = label.fontMetrics().horizontalAdvance(shown);
+            cut += width == 0 || width > label.width() ? " " + file : "";
+        }
+    }
+    return cut;
+}
+
+// What is shown is spoilt each time, so that the same once more makes a difference.
+void OnShow(const QProgressDialog& dialog) {
+    const auto label = dialog.findChild<QLabel*>();
+    const auto bar = dialog.findChild<QProgressBar*>();
+    Tell(dialog.windowTitle() + ", " + label->text());
+    Tell(QString("%1 pixels on %2, icon of %3, %4 on %5, cut off:%6")
+             .arg(qRound(dialog.width() * dialog.devicePixelRatioF() / 10) * 10)
+             .arg(QGuiApplication::platformName())
+             .arg(dialog.windowIcon().actualSize({500, 500}).width())
+             .arg(label->palette().windowText().color().name())
+             .arg(bar->palette().base().color().name())
+             .arg(CutOff(*label)));
+    label->setText("spoilt");
+    QObject::connect(bar, &QProgressBar::valueChanged, [label, bar](int value) {
+        Tell(QString("%1, %2").arg(value).arg(label->text()));
+        const QSignalBlocker blocker(bar);
+        bar->setValue(value % 100);
+    });
+}
+
+class Plugin : public QGenericPlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "spy.json")
+
+    QObject* create(const QString&, const QString& what) override {
+        if (what == "exit" && QGuiApplication::platformName() == "xcb") {
+            std::exit(1);
+        }
+        qApp->installEventFilter(this);
+        return new QObject;
+    }
+    bool eventFilter(QObject* object, QEvent* event) override {
+        const auto dialog = qobject_cast<QProgressDialog*>(object);
+        if (dialog != nullptr && event->type() == QEvent::Show) {
+            OnShow(*dialog);
+        } else if (dialog != nullptr && event->type() == QEvent::Hide) {
+            Tell("hidden, " + dialog->labelText());
+        }
+        return false;
+    }
+};
+
+}  // namespace
+
+#include "spy.moc"

@@ -1,0 +1,181 @@
+// Starts in sessions of many kinds, and several starts at once.
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <QLocalServer>
+#include <QTcpServer>
+#include <QTcpSocket>
+
+#include "e2e/desktop.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Start {
+    const char* name;
+    bool shows;  // the window on a display, and a spy can be heard
+    std::function<void(World&)> prepare;
+    std::vector<int> closed = {};  // descriptors
+    World world = World();
+    std::unique_ptr<QProcess> process = nullptr;
+};
+
+void Begin(Start& start) {
+    Spy(start.world);
+    start.prepare(start.world);
+    start.world.Offer(1);
+    start.process = start.world.Start([&start] {
+        fs::current_path(start.world.dir.path());
+        std::for_each(start.closed.begin(), start.closed.end(), close);
+    });
+}
+
+void Check(const Start& start) {
+    SCOPED_TRACE(start.name);
+    const Outcome run = start.world.Finish(*start.process);
+    EXPECT_TRUE(Succeeded(run, start.world, 1));
+    EXPECT_EQ(Contains(Told(run), "on xcb"), start.shows);
+    EXPECT_FALSE(Contains(start.world.Log(), "lib path"));
+}
+
+// With a variable and the display, if there is one, in the environment.
+std::function<void(World&)> With(const QString& display, const char* variable = "LANG",
+                                 const QString& value = "C") {
+    return [=](World& world) {
+        world.environment.remove("QT_QPA_PLATFORM");
+        world.environment.insert("DISPLAY", display);
+        world.environment.insert(variable, value);
+    };
+}
+
+// With zeros in the platform plug-ins, or with none.
+std::function<void(World&)> WithPlugins(const QString& display, std::size_t at, std::size_t count) {
+    return [=](World& world) {
+        With(display)(world);
+        fs::remove(world.Plugins() + "/platforms");
+        fs::create_directory(world.Plugins() + "/platforms");
+        for (const std::string name : {"/platforms/libqxcb.so", "/platforms/libqoffscreen.so"}) {
+            std::string plugin = ReadFile(QT_PLUGINS + name);
+            plugin.replace(at, count, std::min(count, plugin.size() - at), 0);
+            if (count > 0) {
+                WriteFile(world.Plugins() + name, plugin);
+            }
+        }
+    };
+}
+
+// Takes connections as an X display does. Result: its name.
+QString ListenAsDisplay(QTcpServer& server) {
+    int number = 101;
+    while (!server.listen(QHostAddress::LocalHost, static_cast<quint16>(6000 + number))) {
+        ++number;
+    }
+    return QString("127.0.0.1:%1").arg(number);
+}
+
+}  // namespace
+
+TEST(Start, InSessionsOfManyKinds) {
+    const Desktop desktop;
+    const QString display = desktop.Display();
+    const TempDir dir;
+    const QString bus_name = QString::fromStdString(dir / "bus");
+    QLocalServer bus;
+    ASSERT_TRUE(bus.listen(bus_name));
+    QTcpServer silent;
+    QTcpServer stammering;
+    Start slow[] = {
+        {"silent display", false, With(ListenAsDisplay(silent))},
+        {"half an answer", false, With(ListenAsDisplay(stammering))},
+        {"silent bus", true, With(display, "DBUS_SESSION_BUS_ADDRESS", "unix:path=" + bus_name)},
+    };
+    Start quick[] = {
+        {"display", true, With(display)},
+        {"display by IPv6", true, With("[::1]" + display)},
+        {"no display", false, With("")},
+        {"nobody's display", false, With(":4242", "QT_QPA_PLATFORM", "xcb")},
+        {"exit while Qt starts", false, With(display, "QT_QPA_GENERIC_PLUGINS", "spy:exit")},
+        {"streams 0 and 1 closed", true, With(display), {0, 1}},
+        {"streams 1 and 2 closed", false, With(display), {1, 2}},
+        {"streams 0 to 2 closed", false, With(display), {0, 1, 2}},
+        {"no plug-ins", true, WithPlugins(display, 0, 0)},
+        {"plug-ins that do not load", false, WithPlugins("", 0, std::string::npos)},
+        {"plug-ins with holes", false, WithPlugins("", 4096, 8192)},
+        {"relative home", false, With("", "HOME", "home")},
+    };
+    std::for_each(std::begin(slow), std::end(slow), Begin);
+    ASSERT_TRUE(stammering.waitForNewConnection(10000));
+    QTcpSocket* const half = stammering.nextPendingConnection();
+    half->write("\1\0\13\0\0\0\377\0", 8);
+    half->flush();
+    for (Start& start : quick) {
+        Begin(start);
+        Check(start);
+    }
+    std::for_each(std::begin(slow), std::end(slow), Check);
+}
+
+// A limit of one is the launcher itself, which then becomes the client.
+TEST(Start, WithoutThreadsProcessesOrAHome) {
+    if (getuid() != 0) {
+        GTEST_SKIP() << "needs root to become another user";
+    }
+    for (const rlim_t limit : {1, 2, 3, 4000}) {
+        const bool has_home = limit != 4000;
+        World world;
+        fs::permissions(world.dir.path(), fs::perms(0755));
+        ASSERT_EQ(chown(world.Home().c_str(), has_home ? kLoner : 0, 0), 0);
+        world.Offer(1, Pack(ClientPackage(1, {}, "#!/bin/sh\necho >\"$HOME/.Quillmere/open\"\n")));
+        const Outcome run = world.Finish(*world.Start([limit] {
+            BecomeLoner();
+            const rlimit processes = {limit, limit};
+            setrlimit(RLIMIT_NPROC, &processes);
+        }));
+        EXPECT_TRUE(EndedWell(run));
+        EXPECT_TRUE(has_home ? WaitFor([&] { return fs::exists(world.User() + "/open"); })
+                             : Contains(run.err, ": failed to create folder: '" + world.App()));
+    }
+}
+
+// While one launcher waits in the middle of an upgrade. What a killed one left is nobody's lock.
+TEST(Start, OneAtATime) {
+    World world;
+    world.LogEverything();
+    world.Have(1);
+    world.Offer(2);
+    CloseGate(world);
+    const auto is_logged = [&world](const char* line, int times) {
+        return WaitFor([&] { return QString::fromStdString(world.Log()).count(line) == times; });
+    };
+    const auto killed = world.Start();
+    ASSERT_TRUE(is_logged("local appdata exist", 1));
+    killed->kill();
+    killed->waitForFinished();
+    const auto first = world.Start();
+    ASSERT_TRUE(is_logged("local appdata exist", 2));
+
+    // Again from here, from another session, and with another user's file in the way.
+    EXPECT_TRUE(EndedWell(world.Launch()));
+    world.environment.remove("XDG_RUNTIME_DIR");
+    world.environment.insert("TMPDIR", QString::fromStdString(world.dir.path()));
+    EXPECT_TRUE(EndedWell(world.Launch()));
+    const std::vector<std::string> locks = world.Locks();
+    ASSERT_EQ(locks.size(), 1u);
+    fs::remove(locks[0]);
+    WriteFile(locks[0], world.dir.path());
+    ASSERT_TRUE(getuid() != 0 || chown(locks[0].c_str(), kLoner, kLoner) == 0);
+    EXPECT_TRUE(EndedWell(world.Launch()));
+    EXPECT_TRUE(is_logged("app has already launched, return", 3));
+
+    // Another bundle is another instance, and waits.
+    const auto as_it_is = fs::copy_options::recursive | fs::copy_options::copy_symlinks;
+    fs::copy(world.Bundle(), world.dir / "Other.app", as_it_is);
+    world.program = world.dir / "Other.app/Contents/MacOS/launcher";
+    const auto other = world.Start();
+    EXPECT_TRUE(is_logged("waiting for '", 1));
+    OpenGate(world);
+    EXPECT_TRUE(Succeeded(world.Finish(*first), world, 2));
+    EXPECT_TRUE(Succeeded(world.Finish(*other), world, 2));
+    EXPECT_TRUE(is_logged(": no need to upgrade\n", 1));
+}

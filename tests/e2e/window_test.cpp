@@ -1,0 +1,160 @@
+// The progress window on a real display, and what happens to it.
+#include <QCoreApplication>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <list>
+
+#include "e2e/desktop.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// What a session manager says, as it stands on the wire (Inter-Client Exchange Protocol, X Session
+// Management Protocol): ByteOrder, ConnectionReply, ProtocolReply and RegisterClientReply; before
+// the end of the session, SaveYourself; and Die. And the client's SaveYourselfDone.
+const QByteArray kWelcome = QByteArray::fromHex(
+    "0001000000000000 00060000010000000000000000000000 00080001010000000000000000000000"
+    "01020000010000000100000078000000");
+const QByteArray kSave = QByteArray::fromHex("01030000010000000201020000000000");
+const QByteArray kDie = QByteArray::fromHex("0109000000000000");
+const QByteArray kSaved = QByteArray::fromHex("0108010000000000");
+
+// A launcher in the middle of an upgrade, with its window on a desktop of its own.
+struct Scene {
+    Scene() {
+        desktop.Show(world);
+        const QString name = QString::fromStdString(world.dir / "session");
+        EXPECT_TRUE(manager.listen(name));
+        world.environment.insert("SESSION_MANAGER", "unix/unix:" + name);
+        world.Have(1);
+        world.Offer(2);
+        CloseGate(world);
+        launcher = world.Start();
+        EXPECT_TRUE(manager.waitForNewConnection(10000));
+        session = manager.nextPendingConnection();
+        Say(kWelcome);
+        EXPECT_TRUE(WaitFor([this] { return !desktop.Window(*launcher).isEmpty(); }));
+    }
+    void Say(const QByteArray& words) {
+        session->write(words);
+        session->flush();
+    }
+    bool HasSaved() {
+        session->waitForReadyRead(0);
+        return (heard += session->readAll()).contains(kSaved);
+    }
+
+    Desktop desktop;
+    World world;
+    QLocalServer manager;
+    QLocalSocket* session;
+    QByteArray heard;
+    std::unique_ptr<QProcess> launcher;
+};
+
+}  // namespace
+
+TEST(Window, NothingThatHappensToItStopsTheRun) {
+    enum Then { kStays, kGoes };
+    const struct {
+        const char* name;
+        Then then;
+        QStringList act = {};  // for xdotool
+        std::function<void(Scene&)> happen = [](Scene&) {};
+    } cases[] = {
+        {"nothing", kStays},
+        {"Escape", kGoes, {"windowfocus", "--sync", "WINDOW", "key", "Escape"}},
+        {"Alt+F4", kGoes, {"windowfocus", "--sync", "WINDOW", "key", "alt+F4"}},
+        {"close", kGoes, {"mousemove", "--window", "WINDOW", "--", "391", "-10", "click", "1"}},
+        {"minimised", kGoes, {"windowminimize", "WINDOW"}},
+        {"killed by the user", kGoes, {"windowkill", "WINDOW"}},
+        {"manager gone", kStays, {}, [](Scene& scene) { scene.desktop.KillWindowManager(); }},
+        {"server killed", kGoes, {}, [](Scene& scene) { scene.desktop.SignalServer(SIGKILL); }},
+        {"server frozen", kStays, {}, [](Scene& scene) { scene.desktop.SignalServer(SIGSTOP); }},
+        {"log-out", kStays, {}, [](Scene& scene) { scene.Say(kSave); }},
+        {"end of the session", kGoes, {}, [](Scene& scene) { scene.Say(kDie); }},
+    };
+    std::list<Scene> scenes;
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.name);
+        Scene& scene = scenes.emplace_back();
+        const QString window = scene.desktop.Window(*scene.launcher);
+        scene.desktop.Do(QStringList(row.act).replaceInStrings("WINDOW", window));
+        row.happen(scene);
+        EXPECT_TRUE(row.then == kStays ||
+                    WaitFor([&] { return scene.desktop.Window(*scene.launcher).isEmpty(); }));
+        EXPECT_FALSE(scene.HasSaved());
+        OpenGate(scene.world);
+    }
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.name);
+        Scene& scene = scenes.front();
+        EXPECT_TRUE(Succeeded(scene.world.Finish(*scene.launcher), scene.world, 2));
+        EXPECT_EQ(scene.HasSaved(), row.name == std::string("log-out"));
+        EXPECT_TRUE(scene.world.Locks().empty());
+        scenes.pop_front();
+    }
+}
+
+TEST(Window, ShowsTheUpgradeAndNothingElse) {
+    const std::string start = "Quillmere Drive is initializing...";
+    const std::string end = "Quillmere Drive is ready.";
+    // Two of three entries, the last one, and the worker; the end of the run.
+    const std::string upgrade = "33, " + start + "\n66, " + start + "\n100, " + start + "\n100, " +
+                                start + "\n100, " + end + "\nhidden, " + end;
+    const std::string good = Pack(ClientPackage(2, {{"file", ""}}));
+    const std::string bad = "this is no archive";
+    const std::string dark =
+        "[Colors:Window]\nForegroundNormal=255,255,255\n[Colors:View]\nBackgroundNormal=0,0,0\n";
+    const struct {
+        const char* locale;
+        std::string package;
+        std::string label;  // at first; nothing is shown if it is empty
+        std::string rest;   // whatever it is if it is empty
+        int resolution = 96;
+        std::string colours = {};
+    } cases[] = {
+        {"C", good, start, upgrade},
+        {"fi_FI.UTF-8", bad, start, "100, " + start + "\nhidden, " + start},
+        {"C", "", "", ""},
+        {"C", good, start, upgrade, 96, dark},
+        {"C", good, start, upgrade, 144},
+        {"C", good, start, upgrade, 192},
+        {"de_AT.UTF-8", bad, "Quillmere Drive wird initialisiert ...", ""},
+        {"ja_JP.UTF-8", bad, "Quillmere Drive は初期化中です。", ""},
+        {"pt_PT.UTF-8", bad, "Quillmere Drive a iniciar...", ""},
+        {"pt_BR.UTF-8", bad, "O Quillmere Drive está sendo inicializado...", ""},
+        {"zh_HK.UTF-8", bad, "Quillmere Drive 準備中...", ""},
+        {"nn_NO.UTF-8", bad, "Quillmere Drive starter opp...", ""},
+    };
+    std::map<int, Desktop> desktops;
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.locale + row.label);
+        World world;
+        desktops.try_emplace(row.resolution, row.resolution).first->second.Show(world);
+        Spy(world);
+        world.environment.insert("LC_ALL", row.locale);
+        world.environment.insert("XDG_CURRENT_DESKTOP", "KDE");
+        world.environment.insert("KDE_SESSION_VERSION", "5");
+        WriteFile(world.Home() + "/.config/kdeglobals", row.colours);
+        world.Have(1);
+        world.Offer(row.label.empty() ? 1 : 2, row.package);
+        fs::create_directory(world.Bundle() + "/Contents/Resources/images");
+        fs::copy(ICON, world.Bundle() + "/Contents/Resources/images");
+        const Outcome run = world.Launch();
+        EXPECT_TRUE(Succeeded(run, world, row.package == good ? 2 : 1));
+        const std::string shown = "Quillmere Drive, " + row.label + "\n" +
+                                  std::to_string(400 * row.resolution / 96) +
+                                  " pixels on xcb, icon of 72, #000000 on #ffffff, cut off:\n";
+        const std::string told = Told(run);
+        EXPECT_EQ(row.rest.empty() ? told.substr(0, shown.size()) : told,
+                  row.label.empty() ? "" : shown + row.rest);
+    }
+}
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    const QCoreApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
