@@ -220,6 +220,7 @@ TEST_F(FileOp, Remove) {
             EXPECT_TRUE(result != 0 || Content(path) == "0") << path;
         }
         EXPECT_TRUE(fs::exists("dir/inner") && fs::exists("empty/" + kNotUtf8));
+        EXPECT_EQ(TakeLog().find("empty/tree/.hidden") != std::string::npos, level == 7);
     }
 }
 
