@@ -1,6 +1,8 @@
 // Kills the launcher, fails its calls and cuts its power at every call that it makes on its files,
 // and holds what it leaves behind against the rules. Walks a spread of these points, or all of them
 // with QUILLMERE_FAULTS=all.
+#include <sys/resource.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
@@ -24,12 +26,8 @@ PackageEntries Client(char build) {
     std::string noise(200000, 0);
     std::generate(noise.begin(), noise.end(), [&] { return static_cast<char>(random() >> 8); });
     const std::string script = "#!/bin/sh\necho " + std::string(1, build) + " >\"$HOME/opened\"\n";
-    return {{"Contents/", ""},
-            {"Contents/Frameworks/", ""},
-            {"Contents/Frameworks/library", noise},
-            {"Contents/MacOS/", ""},
+    return {{"Contents/Frameworks/library", noise},
             {kExecutable, script},
-            {"Contents/Resources/", ""},
             {kInfo, "[Version]\nbuild_version=" + std::string(1, build) + "\n"}};
 }
 
@@ -128,18 +126,18 @@ User Next(User user, Package package) {
 }
 
 std::string KindOf(const fs::path& directory) {
-    PackageEntries entries;
-    bool version = false;
+    PackageEntries files;
     for (const auto& file : fs::recursive_directory_iterator(directory)) {
-        const std::string path = file.path().lexically_relative(directory);
-        const std::string content = file.is_directory() ? "" : ReadFile(file.path());
-        entries.emplace_back(file.is_directory() ? path + "/" : path, content);
-        version = version || (path == kInfo && content.find("build_version=") != content.npos);
+        if (!file.is_directory()) {
+            files.emplace_back(file.path().lexically_relative(directory), ReadFile(file.path()));
+        }
     }
-    std::sort(entries.begin(), entries.end());
+    std::sort(files.begin(), files.end());
     const auto kind = std::find_if(kKinds.begin(), kKinds.end(),
-                                   [&](const auto& row) { return row.second == entries; });
-    return kind != kKinds.end() ? kind->first : version ? "torn, with a version" : "torn";
+                                   [&](const auto& row) { return row.second == files; });
+    const bool bare = files.empty() && !fs::is_empty(directory);
+    const bool version = ReadFile(directory / kInfo).find("build_version=") != std::string::npos;
+    return kind != kKinds.end() && !bare ? kind->first : version ? "torn, with a version" : "torn";
 }
 
 class Faults : public testing::TestWithParam<Scenario> {
@@ -155,11 +153,7 @@ class Faults : public testing::TestWithParam<Scenario> {
             const fs::path directory = fs::path(world_.User()) / name;
             fs::create_directories(directory);
             for (const auto& [path, content] : kKinds.at(kind)) {
-                if (path.back() == '/') {
-                    fs::create_directory(directory / path);
-                } else {
-                    WriteFile(directory / path, content);
-                }
+                WriteFile(directory / path, content);
                 fs::permissions(directory / path, fs::perms(0755));
             }
         }
@@ -249,13 +243,14 @@ class Faults : public testing::TestWithParam<Scenario> {
             unflushed_.clear();
             return kSuccessWithoutIt;
         }
+        if (call.what == kRemove || call.what == kMake) {
+            unflushed_.erase(call.path);
+        }
         if (call.what == kRemove ? of_backup : call.what == kMake && call.path == InfoPath()) {
             EXPECT_EQ(unflushed_, std::set<std::string>()) << "before " << call.path;
         }
-        if (call.what == kRemove) {
-            unflushed_.erase(call.path);
-        } else if (of_copy ? call.what == kMake || call.what == kWrite
-                           : of_backup && call.what == kRename) {
+        const bool writes = call.what == kMake || call.what == kWrite;
+        if (of_copy ? writes : of_backup && call.what == kRename) {
             unflushed_.insert(call.path);
         }
         return kGoOn;
@@ -346,11 +341,8 @@ TEST(Starts, AtOnceAndKilledAtRandom) {
             EXPECT_TRUE(start->exitStatus() == QProcess::CrashExit || start->exitCode() == 0);
         }
         int whole = 0;
-        for (const auto& entry : fs::directory_iterator(world.User())) {
-            std::error_code none;
-            const fs::directory_iterator files(entry.path() / "files", none);
-            const bool complete = std::distance(begin(files), end(files)) == 2000;
-            whole += complete && fs::exists(entry.path() / kInfo) ? 1 : 0;
+        for (const fs::path& copy : fs::directory_iterator(world.User())) {
+            whole += fs::exists(copy / "files/1999") && fs::exists(copy / kInfo) ? 1 : 0;
         }
         EXPECT_GE(whole, 1);
         const std::string log = world.Log();
@@ -358,6 +350,17 @@ TEST(Starts, AtOnceAndKilledAtRandom) {
     }
     EXPECT_EQ(world.Launch().exit_code, 0);
     EXPECT_EQ(world.Installed(), "2");
+}
+
+TEST(Starts, UnderALimitOfTheSizeOfAFile) {
+    World world;
+    world.Offer(1, Pack(kKinds.at("old")));
+    EXPECT_EQ(world.Launch().exit_code, 0);
+    world.Offer(2, Pack(kKinds.at("new")));
+    const rlimit limit{100000, 100000};
+    const auto start = world.Start([&] { setrlimit(RLIMIT_FSIZE, &limit); });
+    EXPECT_TRUE(world.Finish(*start).normal);
+    EXPECT_EQ(KindOf(world.App()), "old");
 }
 
 INSTANTIATE_TEST_SUITE_P(In, Faults, testing::ValuesIn(kScenarios),

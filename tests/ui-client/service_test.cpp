@@ -1,4 +1,4 @@
-// The transaction branch by branch, the decision, the client's end, a whole run, and the recursive
+// The decision, the client's end, a whole run, what cannot be read or removed, and the recursive
 // copy.
 #include <signal.h>
 #include <sys/wait.h>
@@ -12,7 +12,6 @@
 
 #include "ui-client/launcher/launcher.h"
 #include "ui-client/launcher/mac/mac-service.h"
-#include "ui-client/launcher/package-info.h"
 #include "ui-client/launcher/str-table.h"
 #include "ui-client/service_fixture.h"
 
@@ -20,7 +19,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int kNever = 99;
 constexpr char kExecutable[] = "/Contents/MacOS/quillmere-ui";
 constexpr char kInfo[] = "/Contents/Resources/INFO";
 
@@ -58,39 +56,6 @@ int AsNobody(const std::function<int()>& action) {
 
 }  // namespace
 
-TEST_F(ServiceTest, TransactionByItsBranches) {
-    const struct {
-        int taken;       // backup names 0 to taken - 1 stand full; -1 for no old copy either
-        int extraction;  // its result; kNever where it must not be tried
-        int result;
-        const char* log;
-    } cases[] = {
-        {-1, 0, 0, "user installation is ready, removing backup app\n"},
-        {-1, -1, -1, "Failed to extract package, and no old installation to rollback\n"},
-        {3, 0, 0, "user installation is ready, removing backup app\n"},
-        {2, 7, -1, "Failed to extract package, rollback to old installation\n"},
-        {10, kNever, -1, "Quillmere.app_tmp9' at max retries, exiting\n"},
-    };
-    for (const auto& branch : cases) {
-        SCOPED_TRACE(branch.log);
-        fs::remove_all(home / ".Quillmere");
-        fs::resize_file(LogPath(), 0);
-        for (int index = -1; index < branch.taken; ++index) {
-            const std::string number = index > 0 ? std::to_string(index) : "";
-            WriteFile(App() + (index < 0 ? "/mark" : "_tmp" + number + "/mark"), "old");
-        }
-        FakeExtraction service([&] {
-            EXPECT_NE(branch.extraction, kNever) << "the package was opened";
-            EXPECT_FALSE(branch.taken >= 0 && fs::exists(App())) << "the old copy is written into";
-            return branch.extraction;
-        });
-        EXPECT_EQ(service.PrepareUserEnv(), branch.result);
-        EXPECT_EQ(LogLines("failed to backup app from '"),
-                  std::max(branch.taken, 0) + branch.taken / 10);
-        EXPECT_EQ(LogLines(branch.log), 1);
-    }
-}
-
 TEST_F(ServiceTest, DecisionAndStop) {
     const struct {
         const char* source;
@@ -112,6 +77,7 @@ TEST_F(ServiceTest, DecisionAndStop) {
         EXPECT_EQ(service.HandlePackageUpgrade(), 0);
         EXPECT_EQ(service.stops, row.present ? 1 : 0);
     }
+    EXPECT_EQ(LogLines("user installation is ready, removing backup app\n"), 10);
 }
 
 // A home behind a link, a copy without its executable, a bundle of which nothing can be read.
@@ -167,17 +133,8 @@ TEST_F(ServiceTest, StopsTheClientAndNotItself) {
     signal(SIGCHLD, former);
 }
 
-TEST_F(ServiceTest, PathsOfTheLayout) {
-    const std::string directory = QCoreApplication::applicationDirPath().toStdString();
-    const std::string root = fs::path(directory).parent_path().parent_path();
-    EXPECT_EQ(Service::GetRootQuillmereResourceInstallPath().c_str(), root + "/Contents/Resources");
-    EXPECT_EQ(Service::GetUserQuillmereDataInstallPath().c_str(), home / ".Quillmere/data");
-    EXPECT_EQ(MacService::GetInstace(), MacService::GetInstace());
-    EXPECT_EQ(PackageInfo().package_file.c_str(), directory + "/package/quillmere.qpk");
-}
-
 TEST_F(ServiceTest, CopiesTrees) {
-    FakeExtraction service([] { return 0; });
+    MacService service;
     const auto copy = [&](const char* from, const char* to) {
         return service.FSCopyPath((home / from).c_str(), (home / to).c_str());
     };
@@ -208,13 +165,14 @@ TEST_F(ServiceTest, NothingStandsBelowAFile) {
     WriteFile(home / ".Quillmere", "");
     EXPECT_EQ(MacService().PrepareUserEnv(), -1);
     EXPECT_EQ(LogLines(": failed to create folder: '"), 1);
+    EXPECT_EQ(LogLines("Failed to extract package, and no old installation to rollback\n"), 1);
 }
 
 TEST_F(ServiceTest, WithoutPermission) {
     if (getuid() != 0) {
         GTEST_SKIP() << "needs root to become another user";
     }
-    FakeExtraction service([] { return kNever; });
+    MacService service;
     WriteFile(home / "from/closed/file", "closed");
     WriteFile(home / "from/open", "open");
     fs::permissions(home / "from/closed", fs::perms::none);
@@ -245,6 +203,7 @@ TEST_F(ServiceTest, WithoutPermission) {
     // Where nothing can be seen, there may be a copy.
     fs::permissions(home / ".Quillmere", fs::perms::none);
     EXPECT_EQ(AsNobody([&] { return -service.PrepareUserEnv(); }), 1);
+    EXPECT_EQ(LogLines("failed to backup app from '"), 11);
     EXPECT_EQ(LogLines("Quillmere.app_tmp9' at max retries, exiting\n"), 1);
 }
 
