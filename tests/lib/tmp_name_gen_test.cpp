@@ -57,7 +57,7 @@ TEST(TmpNameGenTest, NamesOfAllThreadsDiffer) {
     std::thread threads[4];
     for (int i = 0; i < 4; ++i) {
         threads[i] = std::thread([&mine = drawn[i]] {
-            for (int n = 0; n < 20000; ++n) {
+            for (int n = 0; n < 50000; ++n) {
                 mine.insert(TmpNameGen::getInstance()->getTmpName().c_str());
             }
         });
@@ -66,7 +66,7 @@ TEST(TmpNameGenTest, NamesOfAllThreadsDiffer) {
         threads[i].join();
         names.merge(drawn[i]);
     }
-    EXPECT_EQ(names.size(), 80000u);
+    EXPECT_EQ(names.size(), 200000u);
 }
 
 }  // namespace
