@@ -38,11 +38,11 @@ def together(*parts):
     return Spent(*(sum(values) for values in zip(*(part[:3] for part in parts))))
 
 
-def in_turn(rounds, **sides):
+def in_turn(rounds, warm_up=True, **sides):
     """Runs all sides in each round, in one order and the other by turns, after one round that does
-    not count. Result: for each side its list of Spent."""
+    not count, if that is wanted. Result: for each side its list of Spent."""
     spent = {name: [] for name in sides}
-    for turn in range(-1, rounds):
+    for turn in range(-1 if warm_up else 0, rounds):
         for name in sorted(sides, reverse=turn % 2 == 1):
             one = sides[name]()
             if turn >= 0:

@@ -96,8 +96,12 @@ class Bench:
             packages.pack(tree, package, form)
         launcher = self.bundle(package)
         old_tree = tree if old else None
+        package.read_bytes()  # is warm-up enough: programs and libraries have run before
+        self.bare()
+        run("bsdtar", "--version")
         spent = in_turn(
             rounds,
+            warm_up=False,
             offscreen=lambda: self.launch(launcher, old_tree, probe=self.probe, QT_QPA_PLATFORM="offscreen"),
             window=lambda: self.launch(launcher, old_tree, probe=self.probe),
             peer=lambda: self.unpack(package, old_tree),
