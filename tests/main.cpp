@@ -42,8 +42,7 @@ int main(int argc, char** argv) {
         std::exit(RunTests(dir, argc, argv));
     }
     int status = 0;
-    while (wait(&status) != tests) {
-    }
+    while (wait(&status) != tests) {}
     EndOrphans();
     if (WIFSIGNALED(status)) {
         psignal(WTERMSIG(status), argv[0]);

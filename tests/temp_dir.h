@@ -14,8 +14,7 @@
 class TempDir {
   public:
     TempDir() {
-        std::string name =
-            (std::filesystem::temp_directory_path() / "quillmere-test-XXXXXX").string();
+        std::string name = (std::filesystem::temp_directory_path() / "quillmere-test-XXXXXX").string();
         path_ = std::filesystem::canonical(mkdtemp(name.data())).string();
     }
     ~TempDir() {

@@ -9,8 +9,8 @@
 namespace fs = std::filesystem;
 
 Desktop::Desktop(int resolution) {
-    server_.start("Xvfb", {"-displayfd", "1", "-noreset", "-listen", "tcp", "-screen", "0",
-                           "1280x800x24", "-dpi", QString::number(resolution)});
+    server_.start("Xvfb", {"-displayfd", "1", "-noreset", "-listen", "tcp", "-screen", "0", "1280x800x24", "-dpi",
+                           QString::number(resolution)});
     EXPECT_TRUE(WaitFor([&] { return server_.canReadLine() || server_.waitForReadyRead(100); }));
     display_ = ":" + server_.readLine().trimmed();
     manager_.start("env", {"DISPLAY=" + display_, "openbox", "--startup", "echo ready"});
@@ -51,8 +51,7 @@ void CloseGate(const World& world) {
 
 void OpenGate(const World& world) {
     const std::string gate = world.User() + "/ui.pid";
-    EXPECT_TRUE(
-        WaitFor([&] { return UniqueFd(open(gate.c_str(), O_WRONLY | O_NONBLOCK)).valid(); }));
+    EXPECT_TRUE(WaitFor([&] { return UniqueFd(open(gate.c_str(), O_WRONLY | O_NONBLOCK)).valid(); }));
     fs::remove(gate);
 }
 

@@ -57,8 +57,7 @@ std::string Pack(const PackageEntries& entries) {
     return tar.readAllStandardOutput().toStdString();
 }
 
-World::World(const std::string& name)
-    : home_name(name), environment(QProcessEnvironment::systemEnvironment()) {
+World::World(const std::string& name) : home_name(name), environment(QProcessEnvironment::systemEnvironment()) {
     fs::create_directories(Home());
     fs::create_directories(Bundle() + "/Contents/MacOS");
     fs::create_directories(Plugins());
@@ -83,9 +82,7 @@ World::~World() {
             Kill(pid);
         }
     }
-    for (const std::string& lock : Locks()) {
-        fs::remove(lock);
-    }
+    for (const std::string& lock : Locks()) { fs::remove(lock); }
 }
 
 std::vector<std::string> World::Locks() const {
@@ -115,8 +112,7 @@ void World::LogEverything() {
               "launcher_debug=7\nservice_debug=7\nextractor_debug=7\nfile_op_debug=7\n");
 }
 
-std::unique_ptr<QProcess> World::Start(const std::function<void()>& in_child,
-                                       const QStringList& arguments) const {
+std::unique_ptr<QProcess> World::Start(const std::function<void()>& in_child, const QStringList& arguments) const {
     auto process = std::make_unique<ChildProcess>(in_child);
     process->setProcessEnvironment(environment);
     process->start(QString::fromStdString(program.empty() ? LauncherPath() : program), arguments);
@@ -128,9 +124,8 @@ Outcome World::Finish(QProcess& process) const {
     QElapsedTimer timer;
     timer.start();
     const bool ended = process.waitForFinished(60000);
-    return {process.exitCode(), ended && process.exitStatus() == QProcess::NormalExit,
-            timer.elapsed(), process.readAllStandardOutput().toStdString(),
-            process.readAllStandardError().toStdString()};
+    return {process.exitCode(), ended && process.exitStatus() == QProcess::NormalExit, timer.elapsed(),
+            process.readAllStandardOutput().toStdString(), process.readAllStandardError().toStdString()};
 }
 
 pid_t World::ClientPid() const {
@@ -156,20 +151,16 @@ testing::AssertionResult EndedWell(const Outcome& run) {
 testing::AssertionResult Succeeded(const Outcome& run, const World& world, int build) {
     std::string copies;
     for (const auto& entry : fs::directory_iterator(world.User())) {
-        copies +=
-            entry.path().filename().string().rfind("Quillmere.app", 0) == 0 ? entry.path() : "";
+        copies += entry.path().filename().string().rfind("Quillmere.app", 0) == 0 ? entry.path() : "";
     }
     return testing::AssertionResult(EndedWell(run) && copies == world.App() &&
-                                    world.Installed() == std::to_string(build) &&
-                                    world.WaitForClient() != 0)
-           << EndedWell(run).message() << copies << ", build " << world.Installed() << ", client "
-           << world.ClientPid() << "\n"
+                                    world.Installed() == std::to_string(build) && world.WaitForClient() != 0)
+           << EndedWell(run).message() << copies << ", build " << world.Installed() << ", client " << world.ClientPid()
+           << "\n"
            << world.Log();
 }
 
-bool Contains(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
-}
+bool Contains(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
 bool WaitFor(const std::function<bool()>& condition, int seconds) {
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);

@@ -19,8 +19,7 @@ using PackageEntries = std::vector<std::pair<std::string, std::string>>;
 extern const std::string kLightClient;
 
 // A client and an INFO with this build number, and `extra` files between them.
-PackageEntries ClientPackage(int build, const PackageEntries& extra = {},
-                             const std::string& client = kLightClient);
+PackageEntries ClientPackage(int build, const PackageEntries& extra = {}, const std::string& client = kLightClient);
 // The entries as a tar, compressed by zstd.
 std::string Pack(const PackageEntries& entries);
 

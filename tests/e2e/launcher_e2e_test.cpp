@@ -54,9 +54,9 @@ TEST(Launch, StopsTheClientAndNobodyElse) {
     EXPECT_TRUE(Succeeded(world.Finish(*world.Start(BecomeLoner)), world, 1));
     const std::string own = "pid=" + std::to_string(getpid()) + "\n";
     int build = 1;
-    for (const std::string& content : std::vector<std::string>{
-             "pid=0\n", "pid=-1\n", "pid=1\n", "pid=none\n", "pid=99999999\n", "pid=4294967295\n",
-             "pid=\n", "", "other=" + std::to_string(bystander->processId()) + "\n", own}) {
+    for (const std::string& content :
+         std::vector<std::string>{"pid=0\n", "pid=-1\n", "pid=1\n", "pid=none\n", "pid=99999999\n", "pid=4294967295\n",
+                                  "pid=\n", "", "other=" + std::to_string(bystander->processId()) + "\n", own}) {
         SCOPED_TRACE(content);
         Kill(world.ClientPid());
         WriteFile(world.User() + "/ui.pid", content);
@@ -108,8 +108,7 @@ TEST(Launch, StartedClientStandsAlone) {
 }
 
 TEST(Launch, HomesAndLocales) {
-    const PackageEntries odd_names{{"Contents/Ünïcode 家/naïve.txt", "naïve"},
-                                   {"Contents/e\xCC\x81", "nfd"}};
+    const PackageEntries odd_names{{"Contents/Ünïcode 家/naïve.txt", "naïve"}, {"Contents/e\xCC\x81", "nfd"}};
     const std::pair<std::string, const char*> cases[] = {
         {"with blanks", "C"},        {"O'Neil \"quoted\"", "C.UTF-8"},
         {"Zoë 家 домой", "C"},       {"Zoë 家 домой", "de_DE.ISO-8859-1"},

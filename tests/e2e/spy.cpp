@@ -14,9 +14,7 @@
 
 namespace {
 
-void Tell(const QString& line) {
-    std::fprintf(stderr, "window: %s\n", line.toUtf8().constData());
-}
+void Tell(const QString& line) { std::fprintf(stderr, "window: %s\n", line.toUtf8().constData()); }
 
 // The languages of which a text does not fit between the margins.
 QString CutOff(const QLabel& label) {
@@ -24,8 +22,7 @@ QString CutOff(const QLabel& label) {
     for (const QString& file : QDir(":/").entryList({"???.qm"})) {
         QTranslator language;
         language.load(":/" + file);
-        for (const char* const text :
-             {"Quillmere Drive is initializing...", "Quillmere Drive is ready."}) {
+        for (const char* const text : {"Quillmere Drive is initializing...", "Quillmere Drive is ready."}) {
             const QString shown = language.translate("global", text);
             const int width = label.fontMetrics().horizontalAdvance(shown);
             cut += width == 0 || width > label.width() ? " " + file : "";

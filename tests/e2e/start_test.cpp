@@ -40,8 +40,7 @@ void Check(const Start& start) {
 }
 
 // With a variable and the display, if there is one, in the environment.
-std::function<void(World&)> With(const QString& display, const char* variable = "LANG",
-                                 const QString& value = "C") {
+std::function<void(World&)> With(const QString& display, const char* variable = "LANG", const QString& value = "C") {
     return [=](World& world) {
         world.environment.remove("QT_QPA_PLATFORM");
         world.environment.insert("DISPLAY", display);
@@ -68,9 +67,7 @@ std::function<void(World&)> WithPlugins(const QString& display, std::size_t at, 
 // Takes connections as an X display does. Result: its name.
 QString ListenAsDisplay(QTcpServer& server) {
     int number = 101;
-    while (!server.listen(QHostAddress::LocalHost, static_cast<quint16>(6000 + number))) {
-        ++number;
-    }
+    while (!server.listen(QHostAddress::LocalHost, static_cast<quint16>(6000 + number))) { ++number; }
     return QString("127.0.0.1:%1").arg(number);
 }
 

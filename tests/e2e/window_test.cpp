@@ -82,8 +82,7 @@ TEST(Window, NothingThatHappensToItStopsTheRun) {
         const QString window = scene.desktop.Window(*scene.launcher);
         scene.desktop.Do(QStringList(row.act).replaceInStrings("WINDOW", window));
         row.happen(scene);
-        EXPECT_TRUE(row.then == kStays ||
-                    WaitFor([&] { return scene.desktop.Window(*scene.launcher).isEmpty(); }));
+        EXPECT_TRUE(row.then == kStays || WaitFor([&] { return scene.desktop.Window(*scene.launcher).isEmpty(); }));
         EXPECT_FALSE(scene.HasSaved());
         OpenGate(scene.world);
     }
@@ -101,12 +100,11 @@ TEST(Window, ShowsTheUpgradeAndNothingElse) {
     const std::string start = "Quillmere Drive is initializing...";
     const std::string end = "Quillmere Drive is ready.";
     // Two of three entries, the last one, and the worker; the end of the run.
-    const std::string upgrade = "33, " + start + "\n66, " + start + "\n100, " + start + "\n100, " +
-                                start + "\n100, " + end + "\nhidden, " + end;
+    const std::string upgrade = "33, " + start + "\n66, " + start + "\n100, " + start + "\n100, " + start + "\n100, " +
+                                end + "\nhidden, " + end;
     const std::string good = Pack(ClientPackage(2, {{"file", ""}}));
     const std::string bad = "this is no archive";
-    const std::string dark =
-        "[Colors:Window]\nForegroundNormal=255,255,255\n[Colors:View]\nBackgroundNormal=0,0,0\n";
+    const std::string dark = "[Colors:Window]\nForegroundNormal=255,255,255\n[Colors:View]\nBackgroundNormal=0,0,0\n";
     const struct {
         const char* locale;
         std::string package;
@@ -144,12 +142,10 @@ TEST(Window, ShowsTheUpgradeAndNothingElse) {
         fs::copy(ICON, world.Bundle() + "/Contents/Resources/images");
         const Outcome run = world.Launch();
         EXPECT_TRUE(Succeeded(run, world, row.package == good ? 2 : 1));
-        const std::string shown = "Quillmere Drive, " + row.label + "\n" +
-                                  std::to_string(400 * row.resolution / 96) +
+        const std::string shown = "Quillmere Drive, " + row.label + "\n" + std::to_string(400 * row.resolution / 96) +
                                   " pixels on xcb, icon of 72, #000000 on #ffffff, cut off:\n";
         const std::string told = Told(run);
-        EXPECT_EQ(row.rest.empty() ? told.substr(0, shown.size()) : told,
-                  row.label.empty() ? "" : shown + row.rest);
+        EXPECT_EQ(row.rest.empty() ? told.substr(0, shown.size()) : told, row.label.empty() ? "" : shown + row.rest);
     }
 }
 

@@ -41,15 +41,11 @@ const std::map<std::string, PackageEntries> kKinds{{"old", Client('1')},
 
 using User = std::map<std::string, std::string>;  // the kinds by name
 
-std::string Backup(int index) {
-    return std::string(kApp) + "_tmp" + (index == 0 ? "" : std::to_string(index));
-}
+std::string Backup(int index) { return std::string(kApp) + "_tmp" + (index == 0 ? "" : std::to_string(index)); }
 
 User TenNames() {
     User user{{kApp, "old"}};
-    for (int index = 0; index < 10; ++index) {
-        user[Backup(index)] = "somebody's";
-    }
+    for (int index = 0; index < 10; ++index) { user[Backup(index)] = "somebody's"; }
     return user;
 }
 
@@ -62,9 +58,7 @@ const struct Scenario {
 } kScenarios[] = {
     {"FirstInstall", {}, kGood},
     {"Upgrade", {{kApp, "old"}}, kGood},
-    {"UpgradeOverLeftovers",
-     {{kApp, "no version"}, {Backup(0), "old"}, {Backup(7), "somebody's"}},
-     kGood},
+    {"UpgradeOverLeftovers", {{kApp, "no version"}, {Backup(0), "old"}, {Backup(7), "somebody's"}}, kGood},
     {"CurrentCopy", {{kApp, "new"}, {Backup(0), "old"}}, kGood},
     {"TenNamesTaken", TenNames(), kGood},
     {"DamagedPackage", {{kApp, "old"}}, kCutShort},
@@ -72,9 +66,7 @@ const struct Scenario {
     {"OverQuota", {{kApp, "old"}}, kOverQuota},
 };
 
-void PrintTo(const Scenario& row, std::ostream* out) {
-    *out << row.name;
-}
+void PrintTo(const Scenario& row, std::ostream* out) { *out << row.name; }
 
 enum Power { kStays, kFails, kFailsAfterTheVersion };
 enum Event { kNothing, kPackageIsCut, kPackageIsReplaced, kPackageIsRewritten, kHomeIsLost };
@@ -95,8 +87,7 @@ std::vector<Fault> AllFaults() {
                               {kKillBefore, false, kStays, 7},
                               {kKillBefore, false, kFails, 31},
                               {-EINTR}};
-    for (const Event event :
-         {kPackageIsCut, kPackageIsReplaced, kPackageIsRewritten, kHomeIsLost}) {
+    for (const Event event : {kPackageIsCut, kPackageIsReplaced, kPackageIsRewritten, kHomeIsLost}) {
         faults.push_back({kGoOn, false, kStays, 0, event});
     }
     for (const int answer : {-ENOSPC, -EIO, -EACCES, -EMFILE, -EDQUOT, -ESTALE, +kHalfOfTheWrite}) {
@@ -110,15 +101,11 @@ std::vector<Fault> AllFaults() {
 User Next(User user, Package package) {
     const bool there = user.count(kApp) != 0;
     int index = 0;
-    while (there && index < 10 && user.count(Backup(index)) != 0 &&
-           user[Backup(index)] != "empty") {
-        ++index;
-    }
+    while (there && index < 10 && user.count(Backup(index)) != 0 && user[Backup(index)] != "empty") { ++index; }
     if (index == 10 || (there && user[kApp] == "new")) {
         return user;
     }
-    for (int passed = package == kGood ? 0 : index; passed <= index && (there || package == kGood);
-         ++passed) {
+    for (int passed = package == kGood ? 0 : index; passed <= index && (there || package == kGood); ++passed) {
         user.erase(Backup(passed));  // after a failure it is the empty one that was taken
     }
     user[kApp] = package == kGood ? "new" : user[kApp];
@@ -133,8 +120,7 @@ std::string KindOf(const fs::path& directory) {
         }
     }
     std::sort(files.begin(), files.end());
-    const auto kind = std::find_if(kKinds.begin(), kKinds.end(),
-                                   [&](const auto& row) { return row.second == files; });
+    const auto kind = std::find_if(kKinds.begin(), kKinds.end(), [&](const auto& row) { return row.second == files; });
     const bool bare = files.empty() && !fs::is_empty(directory);
     const bool version = ReadFile(directory / kInfo).find("build_version=") != std::string::npos;
     return kind != kKinds.end() && !bare ? kind->first : version ? "torn, with a version" : "torn";
@@ -175,8 +161,8 @@ class Faults : public testing::TestWithParam<Scenario> {
         unflushed_.clear();
         fs::remove(world_.Home() + "/opened");
         const std::string resources = world_.Bundle() + "/Contents/Resources/";
-        const std::vector<std::string> places{world_.User(), resources + "INFO",
-                                              resources + "package", "/proc/self/fd/"};
+        const std::vector<std::string> places{world_.User(), resources + "INFO", resources + "package",
+                                              "/proc/self/fd/"};
         const int ended = RunSupervised(world_, places, [&](const FileCall& call) {
             const bool hit = ++calls_ == at || (calls_ > at && fault.onward);
             const bool fit = fault.answer != kHalfOfTheWrite || call.what == kWrite;
@@ -201,20 +187,16 @@ class Faults : public testing::TestWithParam<Scenario> {
         }
         User now = Get();
         const auto holds = [](const User& user, const std::string& kind) {
-            return std::any_of(user.begin(), user.end(),
-                               [&](auto& row) { return row.second == kind; });
+            return std::any_of(user.begin(), user.end(), [&](auto& row) { return row.second == kind; });
         };
-        EXPECT_TRUE(holds(now, "old") || holds(now, "new") ||
-                    !(holds(start_, "old") || holds(start_, "new")))
+        EXPECT_TRUE(holds(now, "old") || holds(now, "new") || !(holds(start_, "old") || holds(start_, "new")))
             << "no whole copy is left";
         EXPECT_NE(now[kApp], "torn, with a version");
         const std::string opened = ReadFile(world_.Home() + "/opened");
         const bool opens = !killed && fault.event != kHomeIsLost;
         EXPECT_TRUE(!opens || now[kApp] != "old" || opened == "1\n");
         EXPECT_TRUE(!opens || now[kApp] != "new" || opened == "2\n");
-        for (const auto& [name, kind] : start_) {
-            EXPECT_TRUE(kind != "somebody's" || now[name] == kind) << name;
-        }
+        for (const auto& [name, kind] : start_) { EXPECT_TRUE(kind != "somebody's" || now[name] == kind) << name; }
     }
 
     // The package becomes another, whole one, or half of itself.
@@ -323,9 +305,7 @@ TEST(Starts, AtOnceAndKilledAtRandom) {
     world.LogEverything();
     std::minstd_rand random(1);
     PackageEntries many;
-    for (int number = 0; number < 2000; ++number) {
-        many.push_back({"files/" + std::to_string(number), ""});
-    }
+    for (int number = 0; number < 2000; ++number) { many.push_back({"files/" + std::to_string(number), ""}); }
     for (const int build : {1, 2}) {
         world.Offer(build, Pack(ClientPackage(build, many)));
         std::vector<std::unique_ptr<QProcess>> starts;

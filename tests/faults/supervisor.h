@@ -37,17 +37,15 @@ constexpr struct FileCallNumber {
     What what;
 } kFileCalls[] = {
 #ifdef SYS_open  // not on newer processors
-    {SYS_open, 0, kOpen},        {SYS_stat, 0, kLook},        {SYS_lstat, 0, kLook},
-    {SYS_access, 0, kLook},      {SYS_readlink, 0, kLook},    {SYS_mkdir, 0, kChange},
-    {SYS_chmod, 0, kChange},     {SYS_symlink, 1, kChange},   {SYS_link, 1, kChange},
-    {SYS_rename, 0, kRename},    {SYS_rmdir, 0, kRemove},     {SYS_unlink, 0, kRemove},
+    {SYS_open, 0, kOpen},        {SYS_stat, 0, kLook},       {SYS_lstat, 0, kLook},        {SYS_access, 0, kLook},
+    {SYS_readlink, 0, kLook},    {SYS_mkdir, 0, kChange},    {SYS_chmod, 0, kChange},      {SYS_symlink, 1, kChange},
+    {SYS_link, 1, kChange},      {SYS_rename, 0, kRename},   {SYS_rmdir, 0, kRemove},      {SYS_unlink, 0, kRemove},
 #endif
-    {SYS_openat, 1, kOpen},      {SYS_newfstatat, 1, kLook},  {SYS_statx, 1, kLook},
-    {SYS_faccessat, 1, kLook},   {SYS_readlinkat, 1, kLook},  {SYS_mkdirat, 1, kChange},
-    {SYS_renameat, 1, kRename},  {SYS_renameat2, 1, kRename}, {SYS_unlinkat, 1, kRemove},
-    {SYS_read, -1, kLook},       {SYS_lseek, -1, kLook},      {SYS_fstat, -1, kLook},
-    {SYS_getdents64, -1, kLook}, {SYS_write, -1, kWrite},     {SYS_ftruncate, -1, kChange},
-    {SYS_fchmod, -1, kChange},   {SYS_fsync, -1, kChange},    {SYS_syncfs, -1, kFlush}};
+    {SYS_openat, 1, kOpen},      {SYS_newfstatat, 1, kLook}, {SYS_statx, 1, kLook},        {SYS_faccessat, 1, kLook},
+    {SYS_readlinkat, 1, kLook},  {SYS_mkdirat, 1, kChange},  {SYS_renameat, 1, kRename},   {SYS_renameat2, 1, kRename},
+    {SYS_unlinkat, 1, kRemove},  {SYS_read, -1, kLook},      {SYS_lseek, -1, kLook},       {SYS_fstat, -1, kLook},
+    {SYS_getdents64, -1, kLook}, {SYS_write, -1, kWrite},    {SYS_ftruncate, -1, kChange}, {SYS_fchmod, -1, kChange},
+    {SYS_fsync, -1, kChange},    {SYS_syncfs, -1, kFlush}};
 
 // From here on the system asks for each of them. Result: the descriptor that it asks by, or -1.
 inline int InstallFilter() {
@@ -59,8 +57,7 @@ inline int InstallFilter() {
     code.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));
     const sock_fprog program{static_cast<unsigned short>(code.size()), code.data()};
     prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
-    return static_cast<int>(
-        syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, SECCOMP_FILTER_FLAG_NEW_LISTENER, &program));
+    return static_cast<int>(syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, SECCOMP_FILTER_FLAG_NEW_LISTENER, &program));
 }
 
 // A descriptor of another process, as one of this one's.
@@ -81,17 +78,14 @@ inline std::string ReadMemory(pid_t process, __u64 address, std::size_t size) {
 }
 
 inline FileCall Describe(pid_t process, const seccomp_data& data) {
-    const auto call = std::find_if(std::begin(kFileCalls), std::end(kFileCalls), [&](auto& row) {
-        return static_cast<int>(row.number) == data.nr;
-    });
-    std::string path =
-        call->path < 0 ? "" : ReadMemory(process, data.args[call->path], 4096).c_str();
+    const auto call = std::find_if(std::begin(kFileCalls), std::end(kFileCalls),
+                                   [&](auto& row) { return static_cast<int>(row.number) == data.nr; });
+    std::string path = call->path < 0 ? "" : ReadMemory(process, data.args[call->path], 4096).c_str();
     if (path.empty() || path[0] != '/') {  // as it is, or in a directory that is open
         std::error_code none;
         const std::string fd = std::to_string(static_cast<int>(data.args[0]));
         const std::string link = "/proc/" + std::to_string(process) + "/fd/" + fd;
-        path =
-            std::filesystem::read_symlink(link, none).string() + (path.empty() ? "" : "/" + path);
+        path = std::filesystem::read_symlink(link, none).string() + (path.empty() ? "" : "/" + path);
     }
     const bool makes = call->what == kOpen && (data.args[call->path + 1] & O_CREAT) != 0;
     return {makes ? kMake : call->what, path};
@@ -124,8 +118,7 @@ inline int RunSupervised(const World& world, const std::vector<std::string>& pla
         }
         if (poll(&ready, 1, 10) <= 0 || (ready.revents & POLLIN) == 0) {
             process->waitForFinished(0);
-            while (process->state() == QProcess::NotRunning && waitpid(-1, nullptr, WNOHANG) > 0) {
-            }
+            while (process->state() == QProcess::NotRunning && waitpid(-1, nullptr, WNOHANG) > 0) {}
             continue;
         }
         if (ioctl(listener.get(), SECCOMP_IOCTL_NOTIF_RECV, &request) != 0) {
@@ -134,9 +127,8 @@ inline int RunSupervised(const World& world, const std::vector<std::string>& pla
         const auto caller = static_cast<pid_t>(request.pid);
         const FileCall call = Describe(caller, request.data);
         const bool asked = getpgid(caller) == getpgrp() &&
-                           std::any_of(places.begin(), places.end(), [&](const std::string& place) {
-                               return call.path.rfind(place, 0) == 0;
-                           });
+                           std::any_of(places.begin(), places.end(),
+                                       [&](const std::string& place) { return call.path.rfind(place, 0) == 0; });
         const int decision = asked ? answer(call) : kGoOn;
         if (decision == kKillBefore) {
             process->kill();
@@ -151,7 +143,5 @@ inline int RunSupervised(const World& world, const std::vector<std::string>& pla
         response.flags = done ? 0 : SECCOMP_USER_NOTIF_FLAG_CONTINUE;
         ioctl(listener.get(), SECCOMP_IOCTL_NOTIF_SEND, &response);
     }
-    return !listener.valid()                               ? -2
-           : process->exitStatus() == QProcess::NormalExit ? process->exitCode()
-                                                           : -1;
+    return !listener.valid() ? -2 : process->exitStatus() == QProcess::NormalExit ? process->exitCode() : -1;
 }

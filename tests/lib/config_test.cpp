@@ -17,40 +17,36 @@ std::string Read(const std::string& path) {
     Config config;
     config["~"] = "former";
     std::string text = std::to_string(config.read(path));
-    for (const auto& entry : config) {
-        text += "("s + entry.first.c_str() + ":" + entry.second.c_str() + ")";
-    }
+    for (const auto& entry : config) { text += "("s + entry.first.c_str() + ":" + entry.second.c_str() + ")"; }
     return text;
 }
 
 TEST(ConfigTest, LinesThatAreTakenAndLinesThatRefuseTheWholeFile) {
     const TempDir dir;
     const std::string longest(8189, 'x');  // with "k=", what one read takes
-    const std::vector<std::string> rows[] = {
-        {" k = v # w\n", "(k:v)"},
-        {"k=\"a b\"\nl=\"\"\n", "(k:a b)(l:)"},
-        {"k='a#\"'#\n", "(k:a#\")"},
-        {"E-y_1.=v", "(E-y_1.:v)"},
-        {"k=b=c#d\n", "(k:b=c#d)"},
-        {"k = #c\n", "(k:#c)"},
-        {"\n=v\n", "(:v)"},
-        {"k=é #é\n", "(k:é)"},
-        {"k=1\nk=2\n", "(k:2)"},
-        {"k=v\r\nl=''\r\n", "(k:v)(l:)"},
-        {"k\v=\f\"'\"\t#\n", "(k:')"},
-        {"\n \t\n # a=b\nk#c\nk", ""},
-        {"k=a\0b c\n\0[x]\n"s, "(k:a)"},
-        {"k=" + longest + "l=2\n", "(k:" + longest + ")(l:2)"}};
+    const std::vector<std::string> rows[] = {{" k = v # w\n", "(k:v)"},
+                                             {"k=\"a b\"\nl=\"\"\n", "(k:a b)(l:)"},
+                                             {"k='a#\"'#\n", "(k:a#\")"},
+                                             {"E-y_1.=v", "(E-y_1.:v)"},
+                                             {"k=b=c#d\n", "(k:b=c#d)"},
+                                             {"k = #c\n", "(k:#c)"},
+                                             {"\n=v\n", "(:v)"},
+                                             {"k=é #é\n", "(k:é)"},
+                                             {"k=1\nk=2\n", "(k:2)"},
+                                             {"k=v\r\nl=''\r\n", "(k:v)(l:)"},
+                                             {"k\v=\f\"'\"\t#\n", "(k:')"},
+                                             {"\n \t\n # a=b\nk#c\nk", ""},
+                                             {"k=a\0b c\n\0[x]\n"s, "(k:a)"},
+                                             {"k=" + longest + "l=2\n", "(k:" + longest + ")(l:2)"}};
     for (const auto& row : rows) {
         WriteFile(dir / "file", row[0]);
         EXPECT_EQ(Read(dir / "file"), "0" + row[1] + "(~:former)") << row[0];
     }
     const int descriptor = NextDescriptor();
     for (const char* line :
-         {"key\n",      "key=\n",      "key=",       "key = a b\n", "key=   # why\n",
-          "key #why\n", "ke y=1\n",    "k:v\n",      "[Version]\n", ";comment\n",
-          "k=\"abc\n",  "k='abc",      "k=\"a\"b\n", "k='a\"\n",    "é=1\n",
-          "k='a\tb'\n", "k='a\x7F'\n", "k=a\x7F\n",  "k=a\x01\n",   "k\nm=2\n"}) {
+         {"key\n", "key=\n",      "key=",        "key = a b\n", "key=   # why\n", "key #why\n", "ke y=1\n",
+          "k:v\n", "[Version]\n", ";comment\n",  "k=\"abc\n",   "k='abc",         "k=\"a\"b\n", "k='a\"\n",
+          "é=1\n", "k='a\tb'\n",  "k='a\x7F'\n", "k=a\x7F\n",   "k=a\x01\n",      "k\nm=2\n"}) {
         WriteFile(dir / "file", "good=1\n"s + line);
         EXPECT_EQ(Read(dir / "file"), "-1") << line;
     }

@@ -46,8 +46,8 @@ TEST_F(FileOp, Copy) {
         g_most = SIZE_MAX, g_write_error = 0;
         EXPECT_EQ(copied, result);
         EXPECT_TRUE(result != 0 || ReadFile(to) == "content");
-        EXPECT_EQ(TakeLog().find("[ERROR] CopyFile: write: " + std::string(std::strerror(error)) +
-                                 " (" + std::to_string(error) + ")\n"),
+        EXPECT_EQ(TakeLog().find("[ERROR] CopyFile: write: " + std::string(std::strerror(error)) + " (" +
+                                 std::to_string(error) + ")\n"),
                   error != 0 ? 0 : std::string::npos);
     }
     umask(former);
@@ -68,31 +68,25 @@ void TestRename(const std::string& from, const std::string& to, bool exact, int 
 }
 
 TEST_F(FileOp, RenameWithinAVolume) {
-    for (const std::string& name : {"full/x"s, kNotUtf8, kDecomposed}) {
-        WriteFile(at_ / name, name);
-    }
-    const Rows<std::string, std::string, bool, int> rows = {
-        {"", "x", false, -1},
-        {"file", "", false, -1},
-        {"missing", "x", false, -2},
-        {kNotUtf8, "x", false, -2},
-        {"file", "x", true, -2},
-        {"dir", "full", false, -3},
-        {"dir", "dir/x", false, -3},
-        {"file", "dir", false, -3},
-        {"dangling", "link", false, 0},
-        {"dir", "empty", false, 0},
-        {at_ / kDecomposed, "file", true, 0},
-        {"file", std::string(256, 'a'), false, -100}};
-    for (const auto& [from, to, exact, result] : rows) {
-        TestRename(from, to, exact, result);
-    }
+    for (const std::string& name : {"full/x"s, kNotUtf8, kDecomposed}) { WriteFile(at_ / name, name); }
+    const Rows<std::string, std::string, bool, int> rows = {{"", "x", false, -1},
+                                                            {"file", "", false, -1},
+                                                            {"missing", "x", false, -2},
+                                                            {kNotUtf8, "x", false, -2},
+                                                            {"file", "x", true, -2},
+                                                            {"dir", "full", false, -3},
+                                                            {"dir", "dir/x", false, -3},
+                                                            {"file", "dir", false, -3},
+                                                            {"dangling", "link", false, 0},
+                                                            {"dir", "empty", false, 0},
+                                                            {at_ / kDecomposed, "file", true, 0},
+                                                            {"file", std::string(256, 'a'), false, -100}};
+    for (const auto& [from, to, exact, result] : rows) { TestRename(from, to, exact, result); }
 }
 
 // Two volumes, "a" and the small "b".
 bool MountVolumes() {
-    return mkdir("a", 0700) == 0 && mkdir("b", 0700) == 0 && OwnMounts() &&
-           mount("a", "a", "tmpfs", 0, nullptr) == 0 &&
+    return mkdir("a", 0700) == 0 && mkdir("b", 0700) == 0 && OwnMounts() && mount("a", "a", "tmpfs", 0, nullptr) == 0 &&
            mount("b", "b", "tmpfs", 0, "size=64k") == 0;
 }
 
@@ -100,8 +94,7 @@ bool MountVolumes() {
 TEST_F(FileOp, RenameAcrossVolumes) {
     InChild(MountVolumes, [&] {
         umask(077);  // for the FIFOs, whose mode is not that of a new one
-        for (Text name : {"a/1", "a/2", "a/3", "a/4", "a/5", "a/tree/sub/x", "a/tree/.hidden",
-                          "b/old", "b/other"}) {
+        for (Text name : {"a/1", "a/2", "a/3", "a/4", "a/5", "a/tree/sub/x", "a/tree/.hidden", "b/old", "b/other"}) {
             WriteFile(name, name);
         }
         for (const auto& [text, name] : Rows<Text, Text>{{"no", "a/link"},
@@ -118,14 +111,11 @@ TEST_F(FileOp, RenameAcrossVolumes) {
             chmod(name, 0666);
         }
         const Rows<Text, Text, int> rows = {
-            {"a/tree", "b/old", -3},   {"a/1", "b/dir", -3},     {"a/link", "b/dir", -3},
-            {"a/fifo", "b/dir", -3},   {"a/link", "b/no/x", -3}, {"a/1", "b/old", 0},
-            {"a/2", "b/to-source", 0}, {"a/3", "b/to-other", 0}, {"a/4", "b/dangling", 0},
-            {"a/link", "b/old", 0},    {"a/fifo", "b/old", 0},   {"a/to-dir", "b/new", 0},
-            {"a/5", "b/hangs", 0},     {"a/tree", "b/tree", 0}};
-        for (const auto& [from, to, result] : rows) {
-            TestRename(from, to, false, result);
-        }
+            {"a/tree", "b/old", -3},  {"a/1", "b/dir", -3},   {"a/link", "b/dir", -3},   {"a/fifo", "b/dir", -3},
+            {"a/link", "b/no/x", -3}, {"a/1", "b/old", 0},    {"a/2", "b/to-source", 0}, {"a/3", "b/to-other", 0},
+            {"a/4", "b/dangling", 0}, {"a/link", "b/old", 0}, {"a/fifo", "b/old", 0},    {"a/to-dir", "b/new", 0},
+            {"a/5", "b/hangs", 0},    {"a/tree", "b/tree", 0}};
+        for (const auto& [from, to, result] : rows) { TestRename(from, to, false, result); }
         EXPECT_EQ(ReadFile("b/other") + Content("a/no") + Content("b/no"), "b/other00");
         WriteFile("a/tree/sub/x", "new");
         WriteFile("a/tree/sub/y", "y");
@@ -201,12 +191,9 @@ TEST_F(FileOp, MakeDirectories) {
 
 TEST_F(FileOp, Remove) {
     std::string deep = "empty/tree/.hidden";
-    for (int level = 0; level < 200; ++level) {
-        deep += "/deeper";
-    }
-    const Rows<Text, int> rows = {{"", -1},    {"missing", 0},     {"file/x", -1},
-                                  {"link", 0}, {"empty/tree/", 0}, {"dangling", 0},
-                                  {"fifo", 0}, {"socket", 0},      {"empty", -3}};
+    for (int level = 0; level < 200; ++level) { deep += "/deeper"; }
+    const Rows<Text, int> rows = {{"", -1},        {"missing", 0}, {"file/x", -1}, {"link", 0},  {"empty/tree/", 0},
+                                  {"dangling", 0}, {"fifo", 0},    {"socket", 0},  {"empty", -3}};
     // When all is logged each entry is looked at first.
     for (const int level : {7, 4}) {
         LogUpTo(level);

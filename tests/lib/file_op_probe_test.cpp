@@ -49,8 +49,7 @@ TEST_F(FileOp, TextsAndComparisons) {
     EXPECT_TRUE(FSTimeEqual(5, 5) && !FSTimeEqual(5, 6));
     // One letter a field.
     const auto info = [](const std::string& s) {
-        return _FILE_INFO_tag{s[0],        s[1],      s[2],      s[3],      s[4],
-                              s[5] == 'e', s[6] + 0u, s[7] + 0u, s[8] + 0u, s[9]};
+        return _FILE_INFO_tag{s[0], s[1], s[2], s[3], s[4], s[5] == 'e', s[6] + 0u, s[7] + 0u, s[8] + 0u, s[9]};
     };
     for (std::size_t field = 0; field < 10; ++field) {
         std::string other = "pntmseugmd";
@@ -70,9 +69,7 @@ void TestProbes(const TempDir& at) {
         longest += "\u0958";
         composed += "\u0915\u093C";
     }
-    for (const std::string& name : {kDecomposed, in_dir, odd, gone, longest, kNotUtf8}) {
-        WriteFile(at / name, "odd");
-    }
+    for (const std::string& name : {kDecomposed, in_dir, odd, gone, longest, kNotUtf8}) { WriteFile(at / name, "odd"); }
     const Rows<std::string, std::string, int> rows = {
         {"file", "file", FS_TYPE_FILE},   {"./dir//../file", "file", FS_TYPE_FILE},
         {"dir", "dir", FS_TYPE_DIR},      {"link/inner", "dir/inner", FS_TYPE_FILE},
@@ -85,14 +82,13 @@ void TestProbes(const TempDir& at) {
     for (const auto& [path, real, type] : rows) {
         SCOPED_TRACE(path);
         const struct stat status = Status(path);
-        const _FILE_INFO_tag expected{
-            at / real, FSBaseName(real), type, status.st_mtime, status.st_size, true, 0, 0, 0, 0};
+        const _FILE_INFO_tag expected{at / real, FSBaseName(real), type, status.st_mtime, status.st_size, true, 0, 0, 0,
+                                      0};
         _FILE_INFO_tag info;
         info.name = path;
         EXPECT_EQ(FSStat(info.name, info, false), 0);
         EXPECT_TRUE(info == expected) << info.path;
-        EXPECT_EQ(std::tie(info.uid, info.gid, info.mode),
-                  std::tie(status.st_uid, status.st_gid, status.st_mode));
+        EXPECT_EQ(std::tie(info.uid, info.gid, info.mode), std::tie(status.st_uid, status.st_gid, status.st_mode));
         EXPECT_EQ(info.dev, static_cast<std::int32_t>(status.st_dev));
         EXPECT_FALSE(IsFileExist(path, true));
         const bool exact = ustring(path).normalize(ustring::NFC) == real;
@@ -118,9 +114,7 @@ void TestProbes(const TempDir& at) {
     EXPECT_EQ(info.uid + info.gid + info.mode + info.dev, 0);
 }
 
-TEST_F(FileOp, Probes) {
-    TestProbes(at_);
-}
+TEST_F(FileOp, Probes) { TestProbes(at_); }
 
 TEST_F(FileOp, ProbesWithoutProc) {
     const auto hide_proc = [] { return OwnMounts() && !mount("", "/proc", "tmpfs", 0, nullptr); };
@@ -143,11 +137,9 @@ TEST_F(FileOp, AFileThatIsReplacedOrRemovedWhileItIsLookedUp) {
 }
 
 TEST_F(FileOp, WithoutRights) {
-    for (Text name : {"closed/file", "secret", "source"}) {
-        WriteFile(at_ / name, name);
-    }
-    for (const auto& [name, mode] : Rows<Text, mode_t>{
-             {"closed", 0}, {"secret", 0}, {"empty", 0777}, {at_.path().c_str(), 0555}}) {
+    for (Text name : {"closed/file", "secret", "source"}) { WriteFile(at_ / name, name); }
+    for (const auto& [name, mode] :
+         Rows<Text, mode_t>{{"closed", 0}, {"secret", 0}, {"empty", 0777}, {at_.path().c_str(), 0555}}) {
         chmod(name, mode);
     }
     const auto become_nobody = [] {
@@ -179,8 +171,8 @@ TEST_F(FileOp, WithoutRights) {
 TEST_F(FileOp, ReadDirectory) {
     WriteFile(at_ / ".hidden", "12345");
     fs::create_symlink(at_.path(), "dir/way");
-    for (const auto& [path, flags] : Rows<std::string, int>{
-             {at_.path(), 2}, {at_.path(), 1}, {at_ / "dir/way", 1}, {"/dev", 0}}) {
+    for (const auto& [path, flags] :
+         Rows<std::string, int>{{at_.path(), 2}, {at_.path(), 1}, {at_ / "dir/way", 1}, {"/dev", 0}}) {
         DIR_HANDLE handle;
         DIR_ENTRY entry;
         EXPECT_EQ(FSOpenDir(path, flags, handle), 0);
@@ -221,9 +213,8 @@ TEST_F(FileOp, LinksTimesAndOwners) {
 TEST_F(FileOp, KindsOfVolumes) {
     // The last but one is sign-extended.
     const Rows<unsigned long, bool, bool> rows = {
-        {0x6969, true, false},      {0x517B, true, false}, {0xFF534D42, true, false},
-        {0xFE534D42, true, false},  {0x4D44, false, true}, {0xEF53, false, false},
-        {~0xACB2BDul, true, false}, {0, false, false}};
+        {0x6969, true, false}, {0x517B, true, false},  {0xFF534D42, true, false},  {0xFE534D42, true, false},
+        {0x4D44, false, true}, {0xEF53, false, false}, {~0xACB2BDul, true, false}, {0, false, false}};
     for (const auto& [type, network, msdos] : rows) {
         g_volume_type = type;
         EXPECT_EQ(isMountPoint("."), network) << type;
@@ -261,20 +252,14 @@ TEST_F(FileOp, Messages) {
         {CALL(FSCopy("file", "dir", false)), -1, "CopyFile: open(dir): Is a directory (21)"},
         {CALL(FSCopy("dir", "x", false)), -1, "CopyFile: read: Is a directory (21)"},
         {CALL(FSMKDir("file/x", true)), -1, "FSMKDir: Failed to to file info 'file/x'"},
-        {CALL(FSMKDir("link", true)), -1,
-         "FSMKDir: Create a folder but local file system is not directory 'link' (3)"},
-        {CALL(FSMKDirFromRoot("roo", "root")), -1,
-         "Giving a root 'root' whose length is larger then target's 'roo'."},
-        {CALL(FSMKDirFromRoot("roots/a", "root")), -1,
-         "root 'root' is not a parent folder of target 'roots/a'"},
+        {CALL(FSMKDir("link", true)), -1, "FSMKDir: Create a folder but local file system is not directory 'link' (3)"},
+        {CALL(FSMKDirFromRoot("roo", "root")), -1, "Giving a root 'root' whose length is larger then target's 'roo'."},
+        {CALL(FSMKDirFromRoot("roots/a", "root")), -1, "root 'root' is not a parent folder of target 'roots/a'"},
         {CALL(FSMktemp(dir, text)), -1, "mkstemp(" + dir + "): File name too long"},
-        {CALL(FSOpenDir("file", 0, handle)), -1,
-         "FSOpenDir: Failed to open directory 'file'. Not a directory"},
+        {CALL(FSOpenDir("file", 0, handle)), -1, "FSOpenDir: Failed to open directory 'file'. Not a directory"},
         {ReadWhatIsNoDirectory, -1, "FSOpenDir: Failed to read directory 'dir'. Not a directory"},
-        {CALL(isMountPoint("no")), 0,
-         "isMountPoint: Failed to get file system info 'no'. No such file or directory"},
-        {CALL(IsMSDOS("no")), 0,
-         "IsSupportLargeFile: Failed to get file system info 'no'. No such file or directory"},
+        {CALL(isMountPoint("no")), 0, "isMountPoint: Failed to get file system info 'no'. No such file or directory"},
+        {CALL(IsMSDOS("no")), 0, "IsSupportLargeFile: Failed to get file system info 'no'. No such file or directory"},
         {CALL(FSCreateSymbolicLink("x", "link")), -1,
          "FSCreateSymbolicLink: Failed to create symbolic link 'x' -> 'link' (code: 17, msg: File "
          "exists)"},
@@ -284,8 +269,7 @@ TEST_F(FileOp, Messages) {
         {CALL(FSReadSymbolicLink("long", text)), -1,
          "FSReadSymbolicLink: Failed to read symbolic link 'long' (code: 36, msg: File name too "
          "long)"},
-        {CALL(FSChown("no", 1, 1)), -1,
-         "FSChown: Failed to chown 'no' (code: 2, msg: No such file or directory)"}};
+        {CALL(FSChown("no", 1, 1)), -1, "FSChown: Failed to chown 'no' (code: 2, msg: No such file or directory)"}};
     for (const auto& [call, result, message] : rows) {
         EXPECT_EQ(call(), result) << message;
         EXPECT_EQ(TakeLog(), "[ERROR] " + message + "\n");

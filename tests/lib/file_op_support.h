@@ -46,8 +46,7 @@ inline std::string Content(const fs::path& path) {
 
 // Mounts of this process's own, so that nothing stays mounted whatever happens.
 inline bool OwnMounts() {
-    return unshare(CLONE_NEWNS) == 0 &&
-           mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+    return unshare(CLONE_NEWNS) == 0 && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
 // Runs `body` in a child process that `prepare` makes ready: what fails there fails the test. It is

@@ -28,16 +28,12 @@ struct LoggerTestPeer {
 std::time_t g_now = 1700000000;
 std::atomic<int> g_locks_made = 0;
 
-extern "C" std::time_t time(std::time_t*) noexcept {
-    return g_now;
-}
+extern "C" std::time_t time(std::time_t*) noexcept { return g_now; }
 
 // Takes its time, in which another thread may come here as well.
 extern "C" int pthread_mutex_init(pthread_mutex_t* mutex, const pthread_mutexattr_t*) noexcept {
     ++g_locks_made;
-    for (int i = 0; i < 2000; ++i) {
-        std::this_thread::yield();
-    }
+    for (int i = 0; i < 2000; ++i) { std::this_thread::yield(); }
     const pthread_mutex_t unlocked = PTHREAD_MUTEX_INITIALIZER;
     std::memcpy(mutex, &unlocked, sizeof unlocked);
     return 0;
@@ -55,9 +51,7 @@ void Log(int level, std::string component, const char* format, ...) {
     va_end(args);
 }
 
-void Log(const std::string& text) {
-    Log(3, "a", "%s\n", text.c_str());
-}
+void Log(const std::string& text) { Log(3, "a", "%s\n", text.c_str()); }
 
 class LoggerTest : public testing::Test {
   protected:
@@ -74,8 +68,7 @@ class LoggerTest : public testing::Test {
         static const std::regex cut("[A-Z][a-z]{2} [ 0-9]{2} [0-9:]{8} |\n");
         std::string all;
         for (const fs::path& file : std::set<fs::path>(fs::directory_iterator(dir_.path()), {})) {
-            all +=
-                file.filename().string() + ":" + std::regex_replace(ReadFile(file), cut, "") + " ";
+            all += file.filename().string() + ":" + std::regex_replace(ReadFile(file), cut, "") + " ";
             fs::remove(file);
         }
         return all;
@@ -88,16 +81,13 @@ class LoggerTest : public testing::Test {
 
 TEST_F(LoggerTest, LevelsPassUpToTheThresholdOfTheirComponent) {
     const std::string levels = dir_ / "levels";
-    for (const char* const lines :
-         {"e=7\nmalformed line\n", "default_component=7\na=7\nb=5 #w\nc=2\nd=x\n"}) {
+    for (const char* const lines : {"e=7\nmalformed line\n", "default_component=7\na=7\nb=5 #w\nc=2\nd=x\n"}) {
         WriteFile(levels, lines);
         ASSERT_EQ(Open(log_, 50, levels), 0);
     }
     fs::remove(levels);
     for (const std::string component : {"a", "b", "c", "d", "e"}) {
-        for (int level = 3; level <= 7; ++level) {
-            Log(level, component, "%s%d\n", component.c_str(), level);
-        }
+        for (int level = 3; level <= 7; ++level) { Log(level, component, "%s%d\n", component.c_str(), level); }
     }
     EXPECT_EQ(TakeFiles(), "log:a3a4a5a6a7b3b4b5e3e4 ");
 }
@@ -236,9 +226,7 @@ TEST_F(LoggerTest, ThreadsLoseAndMixNoLineWhileTheFileRotates) {
     std::thread threads[kThreads];
     for (int i = 0; i < kThreads; ++i) {
         threads[i] = std::thread([i] {
-            for (int n = 0; n < kLines; ++n) {
-                Log(std::to_string(i) + std::to_string(n));
-            }
+            for (int n = 0; n < kLines; ++n) { Log(std::to_string(i) + std::to_string(n)); }
         });
     }
     for (int i = 0; i < kRotations; ++i) {
@@ -246,9 +234,7 @@ TEST_F(LoggerTest, ThreadsLoseAndMixNoLineWhileTheFileRotates) {
         EXPECT_EQ(Logger::Rotate(), 0);
         Logger::Unlock();
     }
-    for (std::thread& thread : threads) {
-        thread.join();
-    }
+    for (std::thread& thread : threads) { thread.join(); }
     std::map<char, int> next;
     for (int number = kRotations - 1; number >= -1; --number) {
         std::ifstream file(number < 0 ? log_ : log_ + "_" + std::to_string(number));

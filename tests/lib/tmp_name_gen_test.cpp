@@ -22,9 +22,7 @@ namespace {
 TEST(TmpNameGenTest, NamesComeFromTheClock) {
     TmpNameGen& gen = *TmpNameGen::getInstance();
     std::string names;
-    for (int i = 0; i < 38; ++i) {
-        names += gen.getTmpName().c_str();
-    }
+    for (int i = 0; i < 38; ++i) { names += gen.getTmpName().c_str(); }
     EXPECT_EQ(names,
               "tM31ZCUxWNwf7xlFPh5QrOFsksezxPLYsek3DeQPzPEq8WmOeuZHrLe_tfpiMnZeK3FDctCw3BcXAKTI"
               "Zi-uYKgORPpKwqGxDXrWbk7tSaSGOshDyOJhNwJUuTaTiDJnZ069mqRw-0F3UVRYWYfDNcx6l-L3fUVs"
@@ -46,8 +44,7 @@ TEST(TmpNameGenTest, AnEmptyKeyIsFilledToItsEnd) {
     TmpNameGen::getInstance()->rc4_init(state, key);
     const auto is_key = [&](std::time_t seed) {
         std::srand(static_cast<unsigned>(seed));
-        return std::all_of(key, std::end(key),
-                           [](int byte) { return byte == (std::rand() & 255); });
+        return std::all_of(key, std::end(key), [](int byte) { return byte == (std::rand() & 255); });
     };
     EXPECT_TRUE(is_key(now) || is_key(now + 1));
 }
@@ -57,9 +54,7 @@ TEST(TmpNameGenTest, NamesOfAllThreadsDiffer) {
     std::thread threads[4];
     for (int i = 0; i < 4; ++i) {
         threads[i] = std::thread([&mine = drawn[i]] {
-            for (int n = 0; n < 50000; ++n) {
-                mine.insert(TmpNameGen::getInstance()->getTmpName().c_str());
-            }
+            for (int n = 0; n < 50000; ++n) { mine.insert(TmpNameGen::getInstance()->getTmpName().c_str()); }
         });
     }
     for (int i = 0; i < 4; ++i) {

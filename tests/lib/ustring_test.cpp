@@ -95,9 +95,7 @@ TEST(UstringChangeTest, EachChangeLeavesItsTextAndItsView) {
             try {
                 row.change(s);
                 outcome = Peer::units(s) == 0 ? "dropped" : "built";
-            } catch (std::exception const& e) {
-                outcome = e.what();
-            }
+            } catch (std::exception const& e) { outcome = e.what(); }
             EXPECT_EQ(Text(s), row.text);
             EXPECT_EQ(Utf16(s), Utf16(ustring(row.text)));
             EXPECT_TRUE(outcome == row.outcome || !built) << outcome;
@@ -143,9 +141,9 @@ TEST(UstringConversionTest, GoesBothWaysAndNormalises) {
 template <class Needle>
 std::string Search(ustring const& s, Needle const& needle, unsigned long pos) {
     std::string found;
-    for (const unsigned long at : {s.find(needle, pos), s.rfind(needle, pos),
-                                   s.find_first_of(needle, pos), s.find_first_not_of(needle, pos),
-                                   s.find_last_of(needle, pos), s.find_last_not_of(needle, pos)}) {
+    for (const unsigned long at :
+         {s.find(needle, pos), s.rfind(needle, pos), s.find_first_of(needle, pos), s.find_first_not_of(needle, pos),
+          s.find_last_of(needle, pos), s.find_last_not_of(needle, pos)}) {
         found += at == kNone ? "-" : std::to_string(at);
     }
     return found;
@@ -228,15 +226,12 @@ TEST(UstringStreamTest, ReadsTokensAndWritesBytes) {
 
 // Exact fit, and a block with spare room of up to its half stays.
 TEST(UstringCapacityTest, FollowsTheText) {
-    const auto capacities = [](ustring const& s) {
-        return std::pair(Peer::capacity(s), Peer::unit_capacity(s));
-    };
+    const auto capacities = [](ustring const& s) { return std::pair(Peer::capacity(s), Peer::unit_capacity(s)); };
     ustring s, other;
     EXPECT_EQ(capacities(s), std::pair(4ul, 4ul));
     s.c_str_utf16();
     EXPECT_EQ(capacities(s), std::pair(4ul, 1ul));
-    for (const auto& [text, capacity] :
-         std::initializer_list<std::pair<char const*, unsigned long>>{
+    for (const auto& [text, capacity] : std::initializer_list<std::pair<char const*, unsigned long>>{
              {"abcdefghij", 11}, {"abcde", 11}, {"abcd", 11}, {"abc", 4}, {"", 1}, {"abcde", 6}}) {
         s.assign(text);
         EXPECT_EQ(Peer::capacity(s), capacity) << text;

@@ -13,9 +13,7 @@ struct Result {
 
 class QpkTest : public testing::Test {
   protected:
-    QpkTest() {
-        Shell("mkdir -p c/Contents/{MacOS,R} && cp /bin/true c/Contents/MacOS/quillmere-ui");
-    }
+    QpkTest() { Shell("mkdir -p c/Contents/{MacOS,R} && cp /bin/true c/Contents/MacOS/quillmere-ui"); }
 
     // Runs a line of the shell in the test's directory; $Q is the tool.
     Result Shell(const std::string& line) const {
@@ -30,9 +28,7 @@ class QpkTest : public testing::Test {
     const TempDir dir_;
 };
 
-bool Has(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
-}
+bool Has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
 TEST_F(QpkTest, MakeListsEveryFaultOfAClient) {
     const std::string n(240, 'n');
@@ -53,14 +49,10 @@ TEST_F(QpkTest, MakeListsEveryFaultOfAClient) {
         {"echo > Contents/Resources/INFO", "INFO: has no build_version"},
     };
     Shell("mkdir -p c/a/d c/Contents/Resources");
-    for (const auto& fault : faults) {
-        ASSERT_EQ(Shell("cd c && " + fault.first).exit_code, 0) << fault.first;
-    }
+    for (const auto& fault : faults) { ASSERT_EQ(Shell("cd c && " + fault.first).exit_code, 0) << fault.first; }
     const Result run = Shell("$Q make c -o p");
     EXPECT_EQ(run.exit_code, 1);
-    for (const auto& fault : faults) {
-        EXPECT_TRUE(Has(run.err, fault.second)) << fault.second;
-    }
+    for (const auto& fault : faults) { EXPECT_TRUE(Has(run.err, fault.second)) << fault.second; }
     EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), std::size(faults)) << run.err;
     EXPECT_FALSE(fs::exists(dir_ / "p"));
     for (const std::string version : {"12a", "-1", "+1", "2147483648", "''"}) {
@@ -100,8 +92,7 @@ TEST_F(QpkTest, CheckTellsWhatOtherPackersDoWrong) {
         {"chmod 555 R && tar -czf ../p .; chmod 755 R", "R: directory that its owner cannot"},
         {"ln -s /tmp z && tar -czf ../p .; rm z", "was not unpacked"},
         {"tar -czf ../p Contents Contents/MacOS/quillmere-ui", "quillmere-ui: comes twice"},
-        {"tar -czf ../p Contents R --transform s,R$,contents/x,",
-         "contents: differs from Contents"},
+        {"tar -czf ../p Contents R --transform s,R$,contents/x,", "contents: differs from Contents"},
         {"tar -czf ../p R --transform s,R,$(printf 'r%.0s' {1..256}),", "name is longer than 255"},
         {"tar -cf - Contents | head -c 30000 > ../p", "damaged after"},
         {"head -c 1000 ../good > ../p", "would never install"},
@@ -126,8 +117,7 @@ TEST_F(QpkTest, BundleInstallsItsClient) {
     World world;
     const std::string bundle = " '" + world.Bundle() + "' ";
     const std::string line =
-        "cp " SAMPLE_CLIENT
-        " c/Contents/MacOS/; $Q bundle --client c --build 7 --launcher " LAUNCHER " --icon " ICON
+        "cp " SAMPLE_CLIENT " c/Contents/MacOS/; $Q bundle --client c --build 7 --launcher " LAUNCHER " --icon " ICON
         " --copy-plugins --depfile d -o ";
     ASSERT_EQ(Shell(line + bundle).exit_code, 0);
     EXPECT_EQ(Shell("$Q check --bundle" + bundle).exit_code, 0);
@@ -138,8 +128,7 @@ TEST_F(QpkTest, BundleInstallsItsClient) {
     EXPECT_EQ(world.Launch().exit_code, 0);
     EXPECT_NE(world.WaitForClient(), 0);
     EXPECT_EQ(world.Installed(), "7");
-    Shell("mkdir P; cp -r " QT_PLUGINS
-          "/platforms P; sed -i s/XcbQpa.so.5/XcbQpa.so.9/ P/*/libqxcb.so");
+    Shell("mkdir P; cp -r " QT_PLUGINS "/platforms P; sed -i s/XcbQpa.so.5/XcbQpa.so.9/ P/*/libqxcb.so");
     EXPECT_TRUE(Has(Shell(line + "b --plugins P").err, "XcbQpa.so.9 => not found"));
 }
 

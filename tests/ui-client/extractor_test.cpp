@@ -29,8 +29,7 @@ constexpr mode_t kHardLink = 0;
 using Format = int (*)(archive*);
 
 void MakeArchive(const std::string& path, const std::vector<Entry>& entries,
-                 Format format = archive_write_set_format_pax_restricted,
-                 const char* filter = "cat") {
+                 Format format = archive_write_set_format_pax_restricted, const char* filter = "cat") {
     archive* const writer = archive_write_new();
     format(writer);
     archive_write_add_filter_program(writer, filter);
@@ -44,8 +43,7 @@ void MakeArchive(const std::string& path, const std::vector<Entry>& entries,
         if (mode == S_IFLNK) {
             archive_entry_set_symlink(header, content.c_str());
         }
-        archive_entry_set_size(header,
-                               mode == S_IFREG ? static_cast<la_int64_t>(content.size()) : 0);
+        archive_entry_set_size(header, mode == S_IFREG ? static_cast<la_int64_t>(content.size()) : 0);
         archive_write_header(writer, header);
         archive_write_data(writer, content.data(), content.size());
         archive_entry_free(header);
@@ -60,10 +58,10 @@ using Tree = std::map<std::string, std::string>;
 Tree Look(const std::string& directory) {
     Tree tree;
     for (const auto& file : fs::recursive_directory_iterator(directory)) {
-        tree[file.path().lexically_relative(directory)] =
-            file.is_symlink()        ? "->" + fs::read_symlink(file).filename().string()
-            : file.is_regular_file() ? ReadFile(file.path())
-                                     : "/";
+        tree[file.path().lexically_relative(directory)] = file.is_symlink()
+                                                              ? "->" + fs::read_symlink(file).filename().string()
+                                                          : file.is_regular_file() ? ReadFile(file.path())
+                                                                                   : "/";
     }
     return tree;
 }
@@ -114,8 +112,7 @@ TEST_F(ExtractorTest, WritesReportsAndCounts) {
     EXPECT_EQ(ReadFile(home / "outside"), "outside") << "a link was written through";
     testing::internal::CaptureStdout();
     EXPECT_EQ(extractor.List(), 0);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(),
-              "dir/\ndir/run\nno/parents\nreplaced\nlink\n");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "dir/\ndir/run\nno/parents\nreplaced\nlink\n");
 }
 
 // What was written before a failure stays. A package is trusted with where its links lead to.
@@ -133,31 +130,19 @@ TEST_F(ExtractorTest, HostileAndOddPackages) {
     } cases[] = {
         {"no entries", {}, -1, {}, ": Failed to calculate total file numbers, ret: 0\n"},
         {"absolute path", {{"/rooted", "x"}}, 0, {{"rooted", "x"}}, ""},
-        {"climbs",
-         {{"a", "x"}, {"../b", "y"}},
-         -1,
-         {{"a", "x"}},
-         "2 failed: 'Path contains '..''\n"},
+        {"climbs", {{"a", "x"}, {"../b", "y"}}, -1, {{"a", "x"}}, "2 failed: 'Path contains '..''\n"},
         {"climbs within", {{"a/../b", "x"}}, -1, {}, "'Path contains '..''\n"},
         {"long name", {{std::string(5000, 'n'), "x"}}, -1, {}, ": archive_entry_pathname failed"},
         {"long path", {{"a" + deep + "b", "x"}}, -1, {}, ": archive_entry_pathname failed"},
         {"not UTF-8", {{"bad\xff", "x"}}, -1, {}, ": archive_entry_pathname failed"},
         {"below a file", {{"a", "x"}, {"a/b", "y"}}, -1, {{"a", "x"}}, "_extract2 failed: '"},
-        {"over a directory",
-         {{"a/b", "x"}, {"a", "y"}},
-         -1,
-         {{"a", "/"}, {"a/b", "x"}},
-         "_extract2 failed: '"},
+        {"over a directory", {{"a/b", "x"}, {"a", "y"}}, -1, {{"a", "/"}, {"a/b", "x"}}, "_extract2 failed: '"},
         {"over an empty one", {{"a/", "", S_IFDIR}, {"a", "y"}}, 0, {{"a", "y"}}, ""},
         {"over a file", {{"a", "x"}, {"a/", "", S_IFDIR}}, 0, {{"a", "/"}}, ""},
         {"twice", {{"a", "x"}, {"a", "y"}}, 0, {{"a", "y"}}, ""},
         {"over a link", {{"a", outside, S_IFLNK}, {"a", "y"}}, 0, {{"a", "y"}}, ""},
         {"through a link", {{"a", out, S_IFLNK}, {"a/b", "y"}}, 0, {{"a", "->out"}}, ""},
-        {"hard link",
-         {{"a", "x"}, {"b", "a", kHardLink}},
-         -1,
-         {{"a", "x"}},
-         "'Hard-link target 'a' does"},
+        {"hard link", {{"a", "x"}, {"b", "a", kHardLink}}, -1, {{"a", "x"}}, "'Hard-link target 'a' does"},
         {"absolute one", {{"a", outside, kHardLink}}, 0, {{"a", "outside"}}, ""},
         {"FIFO", {{"a", "", S_IFIFO}}, 0, {{"a", "/"}}, ""},
         {"device", {{"a", "", S_IFCHR}}, root ? 0 : -1, root ? Tree{{"a", "/"}} : Tree(), ""},
@@ -175,9 +160,8 @@ TEST_F(ExtractorTest, HostileAndOddPackages) {
         EXPECT_EQ(ReadFile(outside), "outside");
     }
     EXPECT_EQ(Look(out), (Tree{{"b", "y"}}));
-    for (const Format format :
-         {archive_write_set_format_zip, archive_write_set_format_7zip,
-          archive_write_set_format_cpio_newc, archive_write_set_format_iso9660}) {
+    for (const Format format : {archive_write_set_format_zip, archive_write_set_format_7zip,
+                                archive_write_set_format_cpio_newc, archive_write_set_format_iso9660}) {
         MakeArchive(home / "archive", {{"a", "x"}, {"b/c", "y"}}, format, "cat");
         EXPECT_EQ(ExtractAfresh(), 0);
         EXPECT_EQ(Look(home / "dest"), (Tree{{"a", "x"}, {"b", "/"}, {"b/c", "y"}}));
@@ -244,13 +228,10 @@ TEST_F(ExtractorTest, PackageThatChangesAfterItWasCounted) {
     for (const int counted : {2, 4}) {
         WriteFile(home / "archive", counted == 2 ? two : four);
         QObject receiver;
-        QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress,
-                         &receiver,
+        QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &receiver,
                          [&] { WriteFile(home / "archive", counted == 2 ? four : two); });
         EXPECT_EQ(ExtractAfresh(), -1);
-        EXPECT_EQ(
-            LogLines("'Changed since its " + std::to_string(counted) + " entries were counted'\n"),
-            1);
+        EXPECT_EQ(LogLines("'Changed since its " + std::to_string(counted) + " entries were counted'\n"), 1);
     }
 }
 

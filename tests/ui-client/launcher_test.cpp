@@ -64,9 +64,7 @@ const auto* const g_setting = testing::AddGlobalTestEnvironment(new Setting);
 }  // namespace
 
 // The system's locale is what a test says.
-QString QLocale::name() const {
-    return g_locale;
-}
+QString QLocale::name() const { return g_locale; }
 
 TEST(Window, ShowsProgressAndStaysWhenItIsFull) {
     Launcher launcher;
@@ -80,9 +78,8 @@ TEST(Window, ShowsProgressAndStaysWhenItIsFull) {
     const int kSteps[][3] = {{3, 1, 33}, {3, 2, 66}, {100000000, 99999999, 99}, {7, 7, 100}};
     for (const auto& [total, steps, value] : kSteps) {
         // From another thread, as the extractor reports.
-        const std::unique_ptr<QThread> other(QThread::create([total = total, steps = steps] {
-            Notify_Adapter::GetInstance()->UpdateProgress(total, steps);
-        }));
+        const std::unique_ptr<QThread> other(QThread::create(
+            [total = total, steps = steps] { Notify_Adapter::GetInstance()->UpdateProgress(total, steps); }));
         other->start();
         other->wait();
         QCoreApplication::processEvents();
@@ -104,9 +101,7 @@ TEST(StringTable, RowsKeepTheirPlaces) {
     }
     EXPECT_EQ(std::size(kRows), 526u);
     EXPECT_EQ(keys.result().toHex().toStdString(), "4d94a9092bfe5911f92d0e429922b665");
-    for (const char* const none : {"", "app_name ", "app_nam"}) {
-        EXPECT_EQ(StrTable::LookupStrID(none), -1) << none;
-    }
+    for (const char* const none : {"", "app_name ", "app_nam"}) { EXPECT_EQ(StrTable::LookupStrID(none), -1) << none; }
     Replacement translator;
     QCoreApplication::installTranslator(&translator);
     EXPECT_EQ(StrTable::LoadStr(0), "a\nb\tc\\xd %1");
@@ -114,12 +109,11 @@ TEST(StringTable, RowsKeepTheirPlaces) {
 
 TEST(Languages, EachLocaleHasItsOwn) {
     const char* const kCodes[][2] = {
-        {"en_GB", "enu"}, {"zh_TW", "cht"}, {"zh_HK", "cht"}, {"zh_MO", "cht"}, {"zh_SG", "chs"},
-        {"ja_JP", "jpn"}, {"de_AT", "deu"}, {"ko_KR", "krn"}, {"fr_CA", "fra"}, {"it_CH", "ita"},
-        {"es_MX", "esn"}, {"pt_BR", "ptb"}, {"pt_AO", "ptb"}, {"ru_RU", "rus"}, {"da_DK", "dan"},
-        {"no_NO", "nor"}, {"nb_NO", "nor"}, {"nn_NO", "nor"}, {"sv_FI", "sve"}, {"nl_BE", "nld"},
-        {"pl_PL", "plk"}, {"hu_HU", "hun"}, {"pt_PT", "ptg"}, {"pt", "ptg"},    {"tr_TR", "trk"},
-        {"cs_CZ", "csy"}, {"fi_FI", "enu"}, {"C", "enu"},     {"", "enu"},      {"zh", "chs"}};
+        {"en_GB", "enu"}, {"zh_TW", "cht"}, {"zh_HK", "cht"}, {"zh_MO", "cht"}, {"zh_SG", "chs"}, {"ja_JP", "jpn"},
+        {"de_AT", "deu"}, {"ko_KR", "krn"}, {"fr_CA", "fra"}, {"it_CH", "ita"}, {"es_MX", "esn"}, {"pt_BR", "ptb"},
+        {"pt_AO", "ptb"}, {"ru_RU", "rus"}, {"da_DK", "dan"}, {"no_NO", "nor"}, {"nb_NO", "nor"}, {"nn_NO", "nor"},
+        {"sv_FI", "sve"}, {"nl_BE", "nld"}, {"pl_PL", "plk"}, {"hu_HU", "hun"}, {"pt_PT", "ptg"}, {"pt", "ptg"},
+        {"tr_TR", "trk"}, {"cs_CZ", "csy"}, {"fi_FI", "enu"}, {"C", "enu"},     {"", "enu"},      {"zh", "chs"}};
     for (const auto& [locale, code] : kCodes) {
         g_locale = locale;
         EXPECT_EQ(OrvaLocale::getDefaultLanguage(), code) << locale;
@@ -128,22 +122,18 @@ TEST(Languages, EachLocaleHasItsOwn) {
     qCleanupResources_texts();
     EXPECT_EQ(OrvaLocale::getDefaultLanguage(), "enu");
     qInitResources_texts();
-    for (const int none : {-1, 20, 21}) {
-        EXPECT_EQ(OrvaLocale::getLanguageAbbrByID(none), "");
-    }
+    for (const int none : {-1, 20, 21}) { EXPECT_EQ(OrvaLocale::getLanguageAbbrByID(none), ""); }
 }
 
 TEST(Languages, TranslationsOfEach) {
     const QStringList codes = OrvaLocale::getSupportedLanguages();
-    EXPECT_EQ(codes.join(' '),
-              "enu cht chs jpn deu krn fra ita esn ptb rus dan nor sve nld plk hun ptg trk csy");
+    EXPECT_EQ(codes.join(' '), "enu cht chs jpn deu krn fra ita esn ptb rus dan nor sve nld plk hun ptg trk csy");
     EXPECT_EQ(QDir(":/").entryList({"*.qm"}).size(), 20);
     for (const QString& code : codes) {
         SCOPED_TRACE(code.toStdString());
         EXPECT_EQ(OrvaLocale::getLanguageAbbrByID(codes.indexOf(code)), code);
-        EXPECT_EQ(
-            QResource(":/" + code + ".qm").compressionAlgorithm() == QResource::ZlibCompression,
-            !QString("chs cht jpn krn").contains(code));
+        EXPECT_EQ(QResource(":/" + code + ".qm").compressionAlgorithm() == QResource::ZlibCompression,
+                  !QString("chs cht jpn krn").contains(code));
         QTranslator translator;
         ASSERT_TRUE(translator.load(":/" + code + ".qm", QString(), QString(), QString()));
         for (const Row& row : kRows) {
@@ -153,9 +143,8 @@ TEST(Languages, TranslationsOfEach) {
         QCoreApplication::installTranslator(&translator);
         EXPECT_EQ(StrTable::LoadStr(StrTable::kAppName), "Quillmere Drive");
         EXPECT_EQ(QCoreApplication::translate("else", kRows[83].text), kRows[83].text);
-        const QString shown = StrTable::LoadStr(StrTable::kEnvironmentPreparing) +
-                              StrTable::LoadStr(StrTable::kEnvironmentReady);
-        EXPECT_TRUE(code != "deu" ||
-                    shown == "Quillmere Drive wird initialisiert ...Quillmere Drive ist bereit.");
+        const QString shown =
+            StrTable::LoadStr(StrTable::kEnvironmentPreparing) + StrTable::LoadStr(StrTable::kEnvironmentReady);
+        EXPECT_TRUE(code != "deu" || shown == "Quillmere Drive wird initialisiert ...Quillmere Drive ist bereit.");
     }
 }

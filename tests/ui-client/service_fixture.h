@@ -19,10 +19,7 @@ class ServiceTest : public testing::Test {
     int LogLines(const std::string& part) const {
         const std::string log = ReadFile(LogPath());
         int count = 0;
-        for (std::size_t at = log.find(part); at != std::string::npos;
-             at = log.find(part, at + 1)) {
-            ++count;
-        }
+        for (std::size_t at = log.find(part); at != std::string::npos; at = log.find(part, at + 1)) { ++count; }
         return count;
     }
 

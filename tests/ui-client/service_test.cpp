@@ -22,9 +22,7 @@ namespace {
 constexpr char kExecutable[] = "/Contents/MacOS/quillmere-ui";
 constexpr char kInfo[] = "/Contents/Resources/INFO";
 
-std::string App() {
-    return Service::GetUserQuillmereAppInstallPath().c_str();
-}
+std::string App() { return Service::GetUserQuillmereAppInstallPath().c_str(); }
 
 // The failures come from here; all else is real.
 class FakeExtraction : public MacService {
@@ -85,9 +83,7 @@ TEST_F(ServiceTest, RunByItsLog) {
     fs::create_directory(home / "home");
     fs::create_directory_symlink(home / "home", home / "link");
     qputenv("HOME", (home / "link").c_str());
-    WriteFile(
-        App() + kInfo,
-        "[Version]\nmajor_version=1\nminor_version=2\nbuild_version=3\nicon_overlay_version=4\n");
+    WriteFile(App() + kInfo, "[Version]\nmajor_version=1\nminor_version=2\nbuild_version=3\nicon_overlay_version=4\n");
     WriteFile((home / "link/.Quillmere/app/aged"), "");
     Worker worker;
     QMetaObject::invokeMethod(&worker, "HandleServicce", Qt::DirectConnection);
@@ -103,8 +99,7 @@ TEST_F(ServiceTest, RunByItsLog) {
           "[ERROR] extractor: archive_read_open_filename failed: '",
           "[ERROR] extractor: Failed to calculate total file numbers, ret: -1\n",
           "[ERROR] quillmere-service: Failed to extract package, rollback to old",
-          "[ERROR] launcher: Failed to upgrade package\n",
-          "[INFO] quillmere-service: removing aged app folder ",
+          "[ERROR] launcher: Failed to upgrade package\n", "[INFO] quillmere-service: removing aged app folder ",
           "[ERROR] mac/mac-service: Cannot unregister bundle, ",
           "[ERROR] mac/mac-service: Failed to launch Quillmere UI\n", "[DEBUG] launcher: done\n"}) {
         const std::size_t found = log.find(line, at);
@@ -178,10 +173,7 @@ TEST_F(ServiceTest, WithoutPermission) {
     fs::permissions(home / "from/closed", fs::perms::none);
     fs::permissions(home.path(), fs::perms::all);
     // A directory that cannot be opened is left empty, and is no failure.
-    EXPECT_EQ(AsNobody([&] {
-                  return service.FSCopyPath((home / "from").c_str(), (home / "to").c_str());
-              }),
-              0);
+    EXPECT_EQ(AsNobody([&] { return service.FSCopyPath((home / "from").c_str(), (home / "to").c_str()); }), 0);
     EXPECT_EQ(ReadFile(home / "to/open"), "open");
     EXPECT_TRUE(fs::is_empty(home / "to/closed"));
     EXPECT_EQ(LogLines("[WARNING] quillmere-service("), 1);
@@ -190,9 +182,7 @@ TEST_F(ServiceTest, WithoutPermission) {
     fs::permissions(home / ".Quillmere", fs::perms::all);
     FakeExtraction stuck([] {
         WriteFile(App() + kInfo, "");
-        for (int number = 0; number < 20; ++number) {
-            WriteFile(App() + "/Contents/" + std::to_string(number), "");
-        }
+        for (int number = 0; number < 20; ++number) { WriteFile(App() + "/Contents/" + std::to_string(number), ""); }
         fs::permissions(App() + "/Contents", fs::perms::owner_read | fs::perms::owner_exec);
         return -1;
     });
