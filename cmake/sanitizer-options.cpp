@@ -2,11 +2,13 @@
 extern "C" const char* __lsan_default_suppressions();
 extern "C" const char* __tsan_default_suppressions();
 
-// Qt's platform plug-ins and fontconfig keep what they have allocated until the process ends.
+// Qt's platform plug-ins, fontconfig and D-Bus keep what they have allocated until the process
+// ends.
 extern "C" const char* __lsan_default_suppressions() {
     return "leak:libqoffscreen\n"
            "leak:libqxcb\n"
            "leak:libQt5XcbQpa\n"
+           "leak:libdbus-1\n"
            "leak:libfontconfig\n";
 }
 
