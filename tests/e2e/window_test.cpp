@@ -64,8 +64,8 @@ TEST(Window, NothingThatHappensToItStopsTheRun) {
         std::function<void(Scene&)> happen = [](Scene&) {};
     } cases[] = {
         {"nothing", kStays},
-        {"Escape", kGoes, {"windowfocus", "--sync", "WINDOW", "key", "Escape"}},
-        {"Alt+F4", kGoes, {"windowfocus", "--sync", "WINDOW", "key", "alt+F4"}},
+        {"Escape", kGoes, {"windowactivate", "--sync", "WINDOW", "key", "Escape"}},
+        {"Alt+F4", kGoes, {"windowactivate", "--sync", "WINDOW", "key", "alt+F4"}},
         {"close", kGoes, {"mousemove", "--window", "WINDOW", "--", "391", "-10", "click", "1"}},
         {"minimised", kGoes, {"windowminimize", "WINDOW"}},
         {"killed by the user", kGoes, {"windowkill", "WINDOW"}},
