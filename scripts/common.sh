@@ -59,14 +59,14 @@ wait_for() {
   done
 }
 
-# use_display [RESOLUTION]: the display of this session, or one of its own with a window manager.
+# The display of this session, or one of its own, of $display_dpi dots per inch, with a window manager.
 use_display() {
   if [ -n "${DISPLAY:-}" ] && xdpyinfo >/dev/null 2>&1; then
     return 0
   fi
   local number
   number=$(mktemp)
-  Xvfb -displayfd 3 -noreset -screen 0 1024x768x24 -dpi "${1:-96}" 3>"$number" >/dev/null 2>&1 &
+  Xvfb -displayfd 3 -noreset -screen 0 1024x768x24 -dpi "${display_dpi:-96}" 3>"$number" >/dev/null 2>&1 &
   display_pids="$!"
   wait_for 20 test -s "$number" || fail "Xvfb does not start"
   DISPLAY=":$(cat "$number")"
