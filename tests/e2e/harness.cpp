@@ -7,6 +7,8 @@
 #include <chrono>
 #include <thread>
 
+#include "make_archive.h"
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -41,20 +43,12 @@ PackageEntries ClientPackage(int build, const PackageEntries& extra, const std::
 
 std::string Pack(const PackageEntries& entries) {
     const TempDir scratch;
-    QProcess tar;
-    tar.setWorkingDirectory(QString::fromStdString(scratch.path()));
-    tar.start("tar", {"-c", "-I", "zstd -q --check", "--mode=755", "--no-recursion", "-T", "-"});
-    for (const auto& [name, content] : entries) {
-        if (name.back() == '/') {
-            fs::create_directories(scratch / name);
-        } else {
-            WriteFile(scratch / name, content);
-        }
-        tar.write((name + "\n").c_str());
+    std::vector<ArchiveMember> members;
+    for (const auto& [path, content] : entries) {
+        members.push_back({path, content, static_cast<mode_t>(path.back() == '/' ? S_IFDIR : S_IFREG)});
     }
-    tar.closeWriteChannel();
-    EXPECT_TRUE(tar.waitForFinished());
-    return tar.readAllStandardOutput().toStdString();
+    MakeArchive(scratch / "package", members, archive_write_set_format_gnutar, "zstd -q --check -c");
+    return ReadFile(scratch / "package");
 }
 
 World::World(const std::string& name) : home_name(name), environment(QProcessEnvironment::systemEnvironment()) {
@@ -65,7 +59,8 @@ World::World(const std::string& name) : home_name(name), environment(QProcessEnv
     fs::create_directory_symlink(QT_PLUGINS "/platforms", Plugins() + "/platforms");
     fs::create_directory(dir / "run");
     fs::permissions(dir / "run", fs::perms::owner_all);
-    for (const char* const variable : {"DISPLAY", "WAYLAND_DISPLAY", "LC_ALL", "LANGUAGE"}) {
+    for (const char* const variable :
+         {"DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "SESSION_MANAGER", "LC_ALL", "LANGUAGE"}) {
         environment.remove(variable);
     }
     environment.insert("HOME", QString::fromStdString(Home()));

@@ -1,4 +1,6 @@
 // Starts in sessions of many kinds, and several starts at once.
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -7,6 +9,7 @@
 #include <QTcpSocket>
 
 #include "e2e/desktop.h"
+#include "unique-fd.h"
 
 namespace fs = std::filesystem;
 
@@ -154,7 +157,7 @@ TEST(Start, OneAtATime) {
     const auto first = world.Start();
     ASSERT_TRUE(is_logged("local appdata exist", 2));
 
-    // Again from here, from another session, and with another user's file in the way.
+    // Again from here, from another session, and with another user's lock in the way.
     EXPECT_TRUE(EndedWell(world.Launch()));
     world.environment.remove("XDG_RUNTIME_DIR");
     world.environment.insert("TMPDIR", QString::fromStdString(world.dir.path()));
@@ -164,6 +167,8 @@ TEST(Start, OneAtATime) {
     fs::remove(locks[0]);
     WriteFile(locks[0], world.dir.path());
     ASSERT_TRUE(getuid() != 0 || chown(locks[0].c_str(), kLoner, kLoner) == 0);
+    const UniqueFd theirs(open(locks[0].c_str(), O_RDWR));
+    EXPECT_EQ(flock(theirs.get(), getuid() == 0 ? LOCK_EX : LOCK_UN), 0);
     EXPECT_TRUE(EndedWell(world.Launch()));
     EXPECT_TRUE(is_logged("app has already launched, return", 3));
 
@@ -172,9 +177,13 @@ TEST(Start, OneAtATime) {
     fs::copy(world.Bundle(), world.dir / "Other.app", as_it_is);
     world.program = world.dir / "Other.app/Contents/MacOS/launcher";
     const auto other = world.Start();
+    const std::string waits = "-> FLOCK  ADVISORY  WRITE " + std::to_string(other->processId()) + " ";  // proc(5)
+    EXPECT_TRUE(WaitFor([&] { return Contains(ReadFile("/proc/locks"), waits); }));
     EXPECT_TRUE(is_logged("waiting for '", 1));
     OpenGate(world);
     EXPECT_TRUE(Succeeded(world.Finish(*first), world, 2));
     EXPECT_TRUE(Succeeded(world.Finish(*other), world, 2));
-    EXPECT_TRUE(is_logged(": no need to upgrade\n", 1));
+    world.program.clear();
+    EXPECT_TRUE(Succeeded(world.Launch(), world, 2));
+    EXPECT_TRUE(is_logged(": no need to upgrade\n", 2));
 }

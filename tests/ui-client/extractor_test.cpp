@@ -1,10 +1,7 @@
 // The extractor: what it writes and reports, and archives that are hostile, damaged or changing.
 #include "ui-client/launcher/extractor.h"
 
-#include <archive.h>
-#include <archive_entry.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QObject>
@@ -12,45 +9,14 @@
 #include <map>
 #include <random>
 
+#include "make_archive.h"
+#include "ui-client/launcher/archive-handles.h"
 #include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/service_fixture.h"
 
 namespace fs = std::filesystem;
 
 namespace {
-
-struct Entry {
-    std::string path;
-    std::string content;  // or where a link leads to
-    mode_t mode = S_IFREG;
-};
-
-constexpr mode_t kHardLink = 0;
-using Format = int (*)(archive*);
-
-void MakeArchive(const std::string& path, const std::vector<Entry>& entries,
-                 Format format = archive_write_set_format_pax_restricted, const char* filter = "cat") {
-    archive* const writer = archive_write_new();
-    format(writer);
-    archive_write_add_filter_program(writer, filter);
-    archive_write_open_filename(writer, path.c_str());
-    for (const auto& [name, content, mode] : entries) {
-        archive_entry* const header = archive_entry_new();
-        archive_entry_set_pathname(header, name.c_str());
-        archive_entry_set_mode(header, (mode == kHardLink ? S_IFREG : mode) | 0755);
-        archive_entry_set_rdevmajor(header, 1);  // overlayfs refuses 0, 0
-        archive_entry_set_hardlink(header, mode == kHardLink ? content.c_str() : nullptr);
-        if (mode == S_IFLNK) {
-            archive_entry_set_symlink(header, content.c_str());
-        }
-        archive_entry_set_size(header, mode == S_IFREG ? static_cast<la_int64_t>(content.size()) : 0);
-        archive_write_header(writer, header);
-        archive_write_data(writer, content.data(), content.size());
-        archive_entry_free(header);
-    }
-    archive_write_close(writer);
-    archive_write_free(writer);
-}
 
 // Contents by path: "/" for a directory, an arrow and the target for a link.
 using Tree = std::map<std::string, std::string>;
@@ -123,7 +89,7 @@ TEST_F(ExtractorTest, HostileAndOddPackages) {
     const bool root = getuid() == 0;
     const struct {
         const char* name;
-        std::vector<Entry> entries;
+        std::vector<ArchiveMember> entries;
         int result;
         Tree tree;
         const char* log;
@@ -160,8 +126,8 @@ TEST_F(ExtractorTest, HostileAndOddPackages) {
         EXPECT_EQ(ReadFile(outside), "outside");
     }
     EXPECT_EQ(Look(out), (Tree{{"b", "y"}}));
-    for (const Format format : {archive_write_set_format_zip, archive_write_set_format_7zip,
-                                archive_write_set_format_cpio_newc, archive_write_set_format_iso9660}) {
+    for (const ArchiveFormat format : {archive_write_set_format_zip, archive_write_set_format_7zip,
+                                       archive_write_set_format_cpio_newc, archive_write_set_format_iso9660}) {
         MakeArchive(home / "archive", {{"a", "x"}, {"b/c", "y"}}, format, "cat");
         EXPECT_EQ(ExtractAfresh(), 0);
         EXPECT_EQ(Look(home / "dest"), (Tree{{"a", "x"}, {"b", "/"}, {"b/c", "y"}}));
@@ -236,19 +202,16 @@ TEST_F(ExtractorTest, PackageThatChangesAfterItWasCounted) {
 }
 
 TEST_F(ExtractorTest, PoursOneEntry) {
-    MakeArchive(home / "archive", {{"one", std::string(100000, '1')}});
-    archive* const reader = archive_read_new();
-    archive_read_support_format_all(reader);
-    archive_read_open_filename(reader, (home / "archive").c_str(), 10240);
+    MakeArchive(home / "archive", {{home / "poured", std::string(100000, '1')}});
+    const ArchiveReader reader(archive_read_new());
+    const ArchiveWriter writer(archive_write_disk_new());
+    archive_read_support_format_all(reader.get());
+    archive_read_open_filename(reader.get(), (home / "archive").c_str(), 10240);
     archive_entry* entry = nullptr;
-    ASSERT_EQ(archive_read_next_header(reader, &entry), ARCHIVE_OK);
-    archive* const writer = archive_write_disk_new();
-    archive_entry_set_pathname(entry, (home / "poured").c_str());
-    ASSERT_EQ(archive_write_header(writer, entry), ARCHIVE_OK);
-    EXPECT_EQ(extractor.copy_data(nullptr, writer), -1);
-    EXPECT_EQ(extractor.copy_data(reader, nullptr), -1);
-    EXPECT_EQ(extractor.copy_data(reader, writer), 0);
-    archive_read_free(reader);
-    archive_write_free(writer);
+    ASSERT_EQ(archive_read_next_header(reader.get(), &entry), ARCHIVE_OK);
+    ASSERT_EQ(archive_write_header(writer.get(), entry), ARCHIVE_OK);
+    EXPECT_EQ(extractor.copy_data(nullptr, writer.get()), -1);
+    EXPECT_EQ(extractor.copy_data(reader.get(), nullptr), -1);
+    EXPECT_EQ(extractor.copy_data(reader.get(), writer.get()), 0);
     EXPECT_EQ(ReadFile(home / "poured"), std::string(100000, '1'));
 }

@@ -85,8 +85,11 @@ TEST_F(ServiceTest, RunByItsLog) {
     qputenv("HOME", (home / "link").c_str());
     WriteFile(App() + kInfo, "[Version]\nmajor_version=1\nminor_version=2\nbuild_version=3\nicon_overlay_version=4\n");
     WriteFile((home / "link/.Quillmere/app/aged"), "");
-    Worker worker;
-    QMetaObject::invokeMethod(&worker, "HandleServicce", Qt::DirectConnection);
+    {
+        Worker worker;
+        worker.StartThread();
+        QMetaObject::invokeMethod(&worker, "HandleServicce", Qt::QueuedConnection);
+    }  // not before the run is over
     const std::string log = std::regex_replace(ReadFile(LogPath()), std::regex("\\([0-9]+\\)"), "");
     std::size_t at = 0;
     for (const char* const line :

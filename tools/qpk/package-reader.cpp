@@ -3,10 +3,10 @@
 
 #include <QFile>
 
-#include "tools/qpk/archive-handles.h"
 #include "tools/qpk/error.h"
 #include "tools/qpk/layout.h"
 #include "tools/qpk/progress.h"
+#include "ui-client/launcher/archive-handles.h"
 
 namespace {
 

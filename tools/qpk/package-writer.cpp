@@ -6,13 +6,13 @@
 #include <cerrno>
 #include <vector>
 
-#include "tools/qpk/archive-handles.h"
 #include "tools/qpk/client-tree.h"
 #include "tools/qpk/error.h"
 #include "tools/qpk/layout.h"
 #include "tools/qpk/progress.h"
 #include "tools/qpk/rules.h"
 #include "tools/qpk/zstd-file.h"
+#include "ui-client/launcher/archive-handles.h"
 
 namespace {
 

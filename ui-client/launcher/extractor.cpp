@@ -1,17 +1,14 @@
 // The layer over libarchive that unpacks the package.
 #include "ui-client/launcher/extractor.h"
 
-#include <archive.h>
-#include <archive_entry.h>
-
 #include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <cstring>
-#include <memory>
 
 #include "log.h"
 #include "platform/files/flush.h"
+#include "ui-client/launcher/archive-handles.h"
 #include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/launcher/str-table.h"
 
@@ -29,24 +26,8 @@ const ustring kLogComponent("extractor_debug");
 constexpr int kWriteOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 
-struct ReaderFreer {
-    void operator()(archive* reader) const { archive_read_free(reader); }
-};
-using Reader = std::unique_ptr<archive, ReaderFreer>;
-
-struct WriterFreer {
-    void operator()(archive* writer) const { archive_write_free(writer); }
-};
-using Writer = std::unique_ptr<archive, WriterFreer>;
-
 int Open(archive* reader, const ustring& path) {
     return archive_read_open_filename(reader, path.c_str(), kBlockSize);
-}
-
-// Why the last call on `handle` failed, where libarchive knows.
-const char* ErrorText(archive* handle) {
-    const char* const text = archive_error_string(handle);
-    return text == nullptr ? "unknown error" : text;
 }
 
 // A failed extraction is told by the side that failed: damaged data are known to the reader alone.
@@ -55,8 +36,8 @@ const char* ErrorText(archive* writer, archive* reader) {
 }
 
 // Opens the archive for a look through its headers. Null on failure, which is logged.
-Reader OpenToLook(const ustring& path) {
-    Reader reader(archive_read_new());
+ArchiveReader OpenToLook(const ustring& path) {
+    ArchiveReader reader(archive_read_new());
     if (!reader) {
         Logger::LogMsg(LOG_LINE(ERROR, "Allocate archive failed\n"));
         return nullptr;
@@ -116,8 +97,8 @@ int Extractor::Extract() {
         return -1;
     }
     // The writer is declared first: the reader is to be freed before it.
-    Writer writer;
-    const Reader reader(archive_read_new());
+    ArchiveWriter writer;
+    const ArchiveReader reader(archive_read_new());
     if (reader) {
         writer.reset(archive_write_disk_new());
     }
@@ -186,7 +167,7 @@ int Extractor::Count() {
         Logger::LogMsg(LOG_LINE(ERROR, "Invalid argument\n"));
         return -1;
     }
-    const Reader reader = OpenToLook(m_source);
+    const ArchiveReader reader = OpenToLook(m_source);
     if (!reader) {
         return -1;
     }
@@ -203,7 +184,7 @@ int Extractor::List() {
         Logger::LogMsg(LOG_LINE(ERROR, "Invalid argument\n"));
         return -1;
     }
-    const Reader reader = OpenToLook(m_source);
+    const ArchiveReader reader = OpenToLook(m_source);
     if (!reader) {
         return -1;
     }

@@ -129,7 +129,7 @@ int main(int argc, char** argv) {
     OpenStandardStreams();
     MakeHomeAbsolute();
     setlocale(LC_ALL, "");
-    // Whoever reads this program's standard output may go; the work goes on.
+    // Writing to a pipe that nobody reads any more fails with EPIPE, and the run goes on.
     std::signal(SIGPIPE, SIG_IGN);
     // A write beyond the limit of a file's size fails with EFBIG, and the old copy is put back.
     std::signal(SIGXFSZ, SIG_IGN);

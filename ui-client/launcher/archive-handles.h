@@ -5,7 +5,6 @@
 #include <archive_entry.h>
 
 #include <memory>
-#include <string>
 
 struct ReaderFreer {
     void operator()(archive* reader) const { archive_read_free(reader); }
@@ -22,8 +21,8 @@ struct EntryFreer {
 };
 using ArchiveEntry = std::unique_ptr<archive_entry, EntryFreer>;
 
-// Why the last call on `handle` failed.
-inline std::string ErrorText(archive* handle) {
+// Why the last call on `handle` failed, where libarchive knows. The text is the handle's.
+inline const char* ErrorText(archive* handle) {
     const char* const text = archive_error_string(handle);
     return text == nullptr ? "unknown error" : text;
 }

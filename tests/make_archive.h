@@ -1,0 +1,43 @@
+// Archives for tests, of any kind that libarchive writes.
+#pragma once
+
+#include <archive.h>
+#include <archive_entry.h>
+#include <sys/stat.h>
+
+#include <string>
+#include <vector>
+
+struct ArchiveMember {
+    std::string path;
+    std::string content;  // or where a link leads to
+    mode_t mode = S_IFREG;
+};
+
+constexpr mode_t kHardLink = 0;
+using ArchiveFormat = int (*)(archive*);
+
+// `filter` is a program that the archive is sent through. All members have the permissions 0755.
+inline void MakeArchive(const std::string& path, const std::vector<ArchiveMember>& members,
+                        ArchiveFormat format = archive_write_set_format_pax_restricted, const char* filter = "cat") {
+    archive* const writer = archive_write_new();
+    format(writer);
+    archive_write_add_filter_program(writer, filter);
+    archive_write_open_filename(writer, path.c_str());
+    for (const auto& [name, content, mode] : members) {
+        archive_entry* const header = archive_entry_new();
+        archive_entry_set_pathname(header, name.c_str());
+        archive_entry_set_mode(header, (mode == kHardLink ? S_IFREG : mode) | 0755);
+        archive_entry_set_rdevmajor(header, 1);  // overlayfs refuses 0, 0
+        archive_entry_set_hardlink(header, mode == kHardLink ? content.c_str() : nullptr);
+        if (mode == S_IFLNK) {
+            archive_entry_set_symlink(header, content.c_str());
+        }
+        archive_entry_set_size(header, mode == S_IFREG ? static_cast<la_int64_t>(content.size()) : 0);
+        archive_write_header(writer, header);
+        archive_write_data(writer, content.data(), content.size());
+        archive_entry_free(header);
+    }
+    archive_write_close(writer);
+    archive_write_free(writer);
+}
