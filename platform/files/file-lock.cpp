@@ -85,10 +85,17 @@ FileLock::Result FileLock::Lock(int operation) {
     return Result::kTaken;
 }
 
+// A file that has come into the place of this one is another's lock.
+void FileLock::RemoveFile() const {
+    if (IsNamed(file_.get(), path_.c_str())) {
+        unlink(path_.c_str());
+    }
+}
+
 void FileLock::Release() {
     const std::lock_guard<std::mutex> guard(All().mutex);
     if (All().held.erase(this) != 0) {
-        unlink(path_.c_str());
+        RemoveFile();
         file_.reset();
     }
 }
@@ -96,7 +103,7 @@ void FileLock::Release() {
 void FileLock::RemoveAll() {
     const std::lock_guard<std::mutex> guard(All().mutex);
     for (const FileLock* const lock : All().held) {
-        unlink(lock->path_.c_str());
+        lock->RemoveFile();
     }
 }
 

@@ -37,6 +37,7 @@ class FileLock {
 
   private:
     Result Lock(int operation);
+    void RemoveFile() const;
 
     std::string path_;
     std::string note_;

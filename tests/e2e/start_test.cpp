@@ -186,4 +186,5 @@ TEST(Start, OneAtATime) {
     world.program.clear();
     EXPECT_TRUE(Succeeded(world.Launch(), world, 2));
     EXPECT_TRUE(is_logged(": no need to upgrade\n", 2));
+    EXPECT_EQ(world.Locks().size(), getuid() == 0 ? 1u : 0u) << "another's lock is gone";
 }
