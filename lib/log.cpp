@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <syslog.h>
 
+#include <algorithm>
 #include <clocale>
 #include <cstdlib>
 #include <ctime>
@@ -19,6 +20,9 @@ constexpr int kDefaultThreshold = 4;
 constexpr int kRotationLimit = 1048576;
 constexpr int kSyslogPriority = 3;
 constexpr char kTimeFormat[] = "%b %d %H:%M:%S ";
+
+// The highest threshold that any component has.
+int g_highest_threshold = kDefaultThreshold;
 
 // Serves until the logger has its own lock.
 pthread_mutex_t g_first_use = PTHREAD_MUTEX_INITIALIZER;
@@ -134,6 +138,10 @@ void Logger::ReadLevels(const ustring& path) {
     for (const auto& level : levels) {
         log_level[level.first] = levels.get_int(level.first);
     }
+    g_highest_threshold = kDefaultThreshold;
+    for (const auto& level : log_level) {
+        g_highest_threshold = std::max(g_highest_threshold, level.second);
+    }
 }
 
 void Logger::LogMsg(Level level, const ustring& component, const char* format, ...) {
@@ -144,11 +152,11 @@ void Logger::LogMsg(Level level, const ustring& component, const char* format, .
 }
 
 void Logger::LogMsg2(Level level, const ustring& component, const char* format, va_list args) {
-    if (!Peek(log_initialized)) {
+    if (!Passes(level, component) || !Peek(log_initialized)) {
         return;
     }
     EnsureReady();
-    if (HasNowhereToWrite() || !Passes(level, component)) {
+    if (HasNowhereToWrite()) {
         return;
     }
     const MutexGuard guard(log_lock);
@@ -185,6 +193,9 @@ void Logger::FollowRotation() {
 // Without the lock: the thresholds change in Initialize only, which runs while no other thread
 // logs.
 bool Logger::Passes(Level level, const ustring& component) {
+    if (level > g_highest_threshold) {
+        return false;
+    }
     const auto found = log_level.find(component);
     const int threshold = found == log_level.end() ? kDefaultThreshold : found->second;
     return level <= threshold;
