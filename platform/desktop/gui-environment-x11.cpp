@@ -21,6 +21,7 @@ namespace {
 constexpr char kPlatforms[] = "QT_QPA_PLATFORM";
 constexpr char kPlatformPlugins[] = "QT_QPA_PLATFORM_PLUGIN_PATH";
 constexpr char kOffscreen[] = "offscreen";
+constexpr char kSessionBus[] = "DBUS_SESSION_BUS_ADDRESS";
 
 using Platforms = QList<QByteArray>;
 
@@ -48,6 +49,13 @@ Platforms WantedPlatforms() {
         RemoveIf(platforms, IsX11);
     }
     return platforms;
+}
+
+// In one of the two places where a bus is found. Where there is none, the D-Bus library would start
+// one, for a program of which nobody asks anything that way.
+bool HasSessionBus() {
+    return !qEnvironmentVariableIsEmpty(kSessionBus) ||
+           QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus");
 }
 
 // The size of windows, in pixels, follows the resolution; that of text does in any case. Nothing is
@@ -163,8 +171,10 @@ GuiEnvironment::GuiEnvironment(const QString& library_path, char** argv) : parts
         return;
     }
     if (without == Without::kSession) {
-        parts_->variables.Set("DBUS_SESSION_BUS_ADDRESS", "disabled:");
         parts_->variables.Unset("SESSION_MANAGER");
+    }
+    if (without == Without::kSession || !HasSessionBus()) {
+        parts_->variables.Set(kSessionBus, "disabled:");
     }
     // A progress bar is drawn without OpenGL, whose libraries take long to load.
     parts_->variables.Set("QT_XCB_GL_INTEGRATION", "none");
