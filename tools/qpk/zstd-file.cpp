@@ -15,6 +15,7 @@ ZstdFile::ZstdFile(const std::string& path, int level)
     }
     ZSTD_CCtx_setParameter(context_.get(), ZSTD_c_compressionLevel, level);
     ZSTD_CCtx_setParameter(context_.get(), ZSTD_c_checksumFlag, 1);
+    ZSTD_CCtx_setParameter(context_.get(), ZSTD_c_windowLog, kWindowLog);
     // From one worker on their number makes no difference to the bytes. A library without threads
     // refuses the parameter and works in this one.
     ZSTD_CCtx_setParameter(context_.get(), ZSTD_c_nbWorkers,

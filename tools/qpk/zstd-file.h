@@ -21,9 +21,13 @@ class ZstdFile {
     void Commit();
 
     static constexpr int kFastest = 1;
-    static constexpr int kSmallest = 19;  // higher levels ask for more memory of who unpacks
+    static constexpr int kSmallest = 19;
 
   private:
+    // What the launcher holds in memory to unpack is this window, 2 MiB. One of 4 MiB, level 9's
+    // own, would make a package of 300 MB smaller by 1 %.
+    static constexpr int kWindowLog = 21;
+
     struct ContextFreer {
         void operator()(ZSTD_CCtx* context) const { ZSTD_freeCCtx(context); }
     };
