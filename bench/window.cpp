@@ -1,8 +1,8 @@
 // What a start of the launcher is measured by:
 //
-//     bench-window bare                     an application object, and out
-//     bench-window same ICON INFO COPY CLIENT   the same window, both versions read, the client
-//     started
+//     bench-window bare                         an application object, and out
+//     bench-window same ICON INFO COPY CLIENT   also the same window, both versions read, and the
+//                                               client started
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
