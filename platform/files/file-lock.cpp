@@ -8,9 +8,9 @@
 
 #include <cerrno>
 #include <fstream>
-#include <iterator>
 #include <mutex>
 #include <set>
+#include <sstream>
 #include <utility>
 
 namespace {
@@ -108,6 +108,9 @@ void FileLock::RemoveAll() {
 }
 
 std::string FileLock::HoldersNote() const {
-    std::ifstream file(path_, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(file), {});
+    // Written from buffer to buffer: a read that fails ends the text, where an iterator would
+    // throw.
+    std::ostringstream note;
+    note << std::ifstream(path_, std::ios::binary).rdbuf();
+    return note.str();
 }
