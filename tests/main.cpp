@@ -1,13 +1,10 @@
 // Runs the tests in a child process with a directory for temporary files of its own, and takes away
 // what they leave behind: orphans are adopted, so that one that ends is gone at once, whatever
 // process 1 does.
-#include <gtest/gtest.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include <csignal>
-#include <fstream>
 
 #include "temp_dir.h"
 

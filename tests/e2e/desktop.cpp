@@ -4,11 +4,15 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <QCoreApplication>
+
 #include "unique-fd.h"
 
 namespace fs = std::filesystem;
 
 Desktop::Desktop(int resolution) {
+    static int argc = 0;
+    static const QCoreApplication application(argc, nullptr);  // for sockets
     server_.start("Xvfb", {"-displayfd", "1", "-noreset", "-listen", "tcp", "-screen", "0", "1280x800x24", "-dpi",
                            QString::number(resolution)});
     EXPECT_TRUE(WaitFor([&] { return server_.canReadLine() || server_.waitForReadyRead(100); }));

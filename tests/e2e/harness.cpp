@@ -1,8 +1,6 @@
 // Bundles, homes and runs for the end-to-end tests.
 #include "e2e/harness.h"
 
-#include <unistd.h>
-
 #include <QRegularExpression>
 #include <chrono>
 #include <thread>

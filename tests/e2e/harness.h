@@ -8,7 +8,6 @@
 #include <QProcessEnvironment>
 #include <functional>
 #include <map>
-#include <string>
 
 #include "temp_dir.h"
 

@@ -1,6 +1,5 @@
 // Drives the real launcher with real packages and a real client.
 #include <fcntl.h>
-#include <unistd.h>
 
 #include <QDir>
 #include <QFileInfo>

@@ -2,7 +2,6 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/resource.h>
-#include <unistd.h>
 
 #include <QLocalServer>
 #include <QTcpServer>

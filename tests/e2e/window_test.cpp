@@ -1,5 +1,4 @@
 // The progress window on a real display, and what happens to it.
-#include <QCoreApplication>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <list>
@@ -147,10 +146,4 @@ TEST(Window, ShowsTheUpgradeAndNothingElse) {
         const std::string told = Told(run);
         EXPECT_EQ(row.rest.empty() ? told.substr(0, shown.size()) : told, row.label.empty() ? "" : shown + row.rest);
     }
-}
-
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    const QCoreApplication application(argc, argv);
-    return RUN_ALL_TESTS();
 }

@@ -1,10 +1,7 @@
 // Tests of the reader of key and value files: which lines it takes, and what a refusal leaves.
 #include "config.h"
 
-#include <gtest/gtest.h>
-
 #include <map>
-#include <string>
 
 #include "tests/temp_dir.h"
 

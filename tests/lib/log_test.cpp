@@ -2,19 +2,15 @@
 #include "log.h"
 
 #include <fcntl.h>
-#include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <syslog.h>
-#include <unistd.h>
 
 #include <atomic>
 #include <cstring>
-#include <filesystem>
 #include <functional>
 #include <map>
 #include <regex>
 #include <set>
-#include <string>
 #include <thread>
 
 #include "tests/temp_dir.h"

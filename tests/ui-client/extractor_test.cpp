@@ -1,9 +1,6 @@
 // The extractor: what it writes and reports, and archives that are hostile, damaged or changing.
 #include "ui-client/launcher/extractor.h"
 
-#include <gtest/gtest.h>
-#include <unistd.h>
-
 #include <QObject>
 #include <clocale>
 #include <map>

@@ -1,14 +1,18 @@
 // A home of the test's own, and a log with everything in it.
 #pragma once
 
-#include <QtGlobal>
+#include <QCoreApplication>
 
 #include "log.h"
 #include "temp_dir.h"
+#include "ui-client/launcher/str-table.h"
 
 class ServiceTest : public testing::Test {
   protected:
     ServiceTest() {
+        static int argc = 0;
+        static const QCoreApplication application(argc, nullptr);
+        StrTable::InitStrTable();
         qputenv("HOME", home.path().c_str());
         WriteFile(home / "levels", "launcher_debug=7\nservice_debug=7\nextractor_debug=7\n");
         Logger::Initialize(Logger::TYPE_FILE, LogPath().c_str(), (home / "levels").c_str(), 50);
