@@ -14,7 +14,7 @@ struct ArchiveMember {
     mode_t mode = S_IFREG;
 };
 
-constexpr mode_t kHardLink = 0;
+constexpr mode_t kHardLink = 0, kSparse = 1;  // of the sparse one the second half is a hole
 using ArchiveFormat = int (*)(archive*);
 
 // `filter` is a program that the archive is sent through. All members have the permissions 0755.
@@ -27,13 +27,17 @@ inline void MakeArchive(const std::string& path, const std::vector<ArchiveMember
     for (const auto& [name, content, mode] : members) {
         archive_entry* const header = archive_entry_new();
         archive_entry_set_pathname(header, name.c_str());
-        archive_entry_set_mode(header, (mode == kHardLink ? S_IFREG : mode) | 0755);
+        archive_entry_set_mode(header, (mode <= kSparse ? S_IFREG : mode) | 0755);
         archive_entry_set_rdevmajor(header, 1);  // overlayfs refuses 0, 0
         archive_entry_set_hardlink(header, mode == kHardLink ? content.c_str() : nullptr);
         if (mode == S_IFLNK) {
             archive_entry_set_symlink(header, content.c_str());
         }
-        archive_entry_set_size(header, mode == S_IFREG ? static_cast<la_int64_t>(content.size()) : 0);
+        const auto size = static_cast<la_int64_t>(content.size());
+        archive_entry_set_size(header, mode == S_IFREG || mode == kSparse ? size : 0);
+        if (mode == kSparse) {
+            archive_entry_sparse_add_entry(header, 0, size / 2);
+        }
         archive_write_header(writer, header);
         archive_write_data(writer, content.data(), content.size());
         archive_entry_free(header);

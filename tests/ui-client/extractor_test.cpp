@@ -83,6 +83,7 @@ TEST_F(ExtractorTest, HostileAndOddPackages) {
     const std::string outside = home / "outside";
     const std::string out = home / "out";
     const std::string deep(5000, '/');  // empty components, which libarchive would leave out
+    const std::string half_a_hole = std::string(65536, 'x') + std::string(65536, 0);
     const bool root = getuid() == 0;
     const struct {
         const char* name;
@@ -107,6 +108,7 @@ TEST_F(ExtractorTest, HostileAndOddPackages) {
         {"through a link", {{"a", out, S_IFLNK}, {"a/b", "y"}}, 0, {{"a", "->out"}}, ""},
         {"hard link", {{"a", "x"}, {"b", "a", kHardLink}}, -1, {{"a", "x"}}, "'Hard-link target 'a' does"},
         {"absolute one", {{"a", outside, kHardLink}}, 0, {{"a", "outside"}}, ""},
+        {"sparse", {{"a", half_a_hole, kSparse}}, 0, {{"a", half_a_hole}}, ""},
         {"FIFO", {{"a", "", S_IFIFO}}, 0, {{"a", "/"}}, ""},
         {"device", {{"a", "", S_IFCHR}}, root ? 0 : -1, root ? Tree{{"a", "/"}} : Tree(), ""},
     };
