@@ -11,7 +11,7 @@ EXECUTABLE = "Contents/MacOS/quillmere-ui"
 INFO = "Contents/Resources/INFO"
 VERSION = "[Version]\nmajor_version=1\nminor_version=0\nbuild_version=2\nicon_overlay_version=1\n"
 FORMS = {
-    "zst": ("--format=pax", "--use-compress-program=zstd -9 --check"),
+    "zst": ("--format=pax", "--use-compress-program=zstd -9 --zstd=wlog=21 --check"),
     "gz": ("--format=pax", "--gzip"),
     "zip": ("--format=zip",),
     "xz": ("--format=pax", "--xz", "--options=xz:threads=2"),
