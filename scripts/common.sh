@@ -7,6 +7,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build_packages=(
   g++ cmake ninja-build pkg-config git ca-certificates
   qtbase5-dev qttools5-dev qttools5-dev-tools libarchive-dev libicu-dev libzstd-dev libxcb1-dev
+  libfontconfig-dev
 )
 packages=(
   "${build_packages[@]}"

@@ -1,4 +1,6 @@
 // Displays and plug-ins where the window system is X11 or Wayland.
+#include <fontconfig/fontconfig.h>
+
 #include <QAccessible>
 #include <QDir>
 #include <QFile>
@@ -8,6 +10,8 @@
 #include <QList>
 #include <QOpenGLContext>
 #include <algorithm>
+#include <system_error>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -152,10 +156,35 @@ class Variables {
     std::vector<Variable> former_;
 };
 
+// Has the list of fonts read on another processor. That takes a third of a start's instructions,
+// and the first window waits for it.
+class FontReader {
+  public:
+    ~FontReader() { Wait(); }
+
+    void Begin() {
+        try {
+            thread_ = std::thread(FcInit);
+        } catch (const std::system_error&) {
+            // No thread is left: the window reads it.
+        }
+    }
+
+    void Wait() {
+        if (thread_.joinable()) {
+            thread_.join();
+        }
+    }
+
+  private:
+    std::thread thread_;
+};
+
 }  // namespace
 
 struct GuiEnvironment::Parts {
     Variables variables;
+    FontReader fonts;
     SessionWatch watch;
 };
 
@@ -186,6 +215,7 @@ GuiEnvironment::GuiEnvironment(const QString& library_path, char** argv) : parts
                               QFile::encodeName(PlatformPlugins(
                                   {PluginsOfExecutable(), PluginsOfQt()}, platforms.first())));
     }
+    parts_->fonts.Begin();
 }
 
 GuiEnvironment::~GuiEnvironment() {
@@ -198,6 +228,7 @@ void GuiEnvironment::Restore() {
     QAccessible::isActive();
     QOpenGLContext::supportsThreadedOpenGL();
     parts_->watch.End();
+    parts_->fonts.Wait();
     parts_->variables.Restore();
 }
 
