@@ -21,6 +21,7 @@ extern "C" const char* __tsan_default_suppressions() {
            "race:QMetaType::destroy\n"
            "race:QWaitCondition\n"
            "race_top:free\n"
+           "race_top:memcmp\n"
            "race_top:memcpy\n"
            "race_top:memmove\n"
            "race_top:write\n"
