@@ -21,7 +21,7 @@ constexpr int kRotationLimit = 1048576;
 constexpr int kSyslogPriority = 3;
 constexpr char kTimeFormat[] = "%b %d %H:%M:%S ";
 
-// The highest threshold that any component has.
+// No component has had a higher threshold.
 int g_highest_threshold = kDefaultThreshold;
 
 // Serves until the logger has its own lock.
@@ -136,11 +136,9 @@ void Logger::ReadLevels(const ustring& path) {
     Config levels;
     levels.read(path);
     for (const auto& level : levels) {
-        log_level[level.first] = levels.get_int(level.first);
-    }
-    g_highest_threshold = kDefaultThreshold;
-    for (const auto& level : log_level) {
-        g_highest_threshold = std::max(g_highest_threshold, level.second);
+        const int threshold = levels.get_int(level.first);
+        log_level[level.first] = threshold;
+        g_highest_threshold = std::max(g_highest_threshold, threshold);
     }
 }
 
