@@ -106,7 +106,10 @@ TEST(Window, ShowsTheUpgradeAndNothingElse) {
                                 end + "\nhidden, " + end;
     const std::string good = Pack(ClientPackage(2, {{"file", ""}}));
     const std::string bad = "this is no archive";
-    const std::string dark = "[Colors:Window]\nForegroundNormal=255,255,255\n[Colors:View]\nBackgroundNormal=0,0,0\n";
+    // Qt reads none of them without the first.
+    const std::string dark =
+        "[Colors:Button]\nBackgroundNormal=0,0,0\n[Colors:Window]\nForegroundNormal=255,255,255\n"
+        "[Colors:View]\nBackgroundNormal=0,0,0\n";
     const struct {
         const char* locale;
         std::string package;
