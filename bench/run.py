@@ -239,7 +239,7 @@ class Bench:
         times = {}
         # What the disk does is no part of these rows.
         with scratch() as above, fresh_directory("micro", above) as place:
-            command = [self.tool("bench-micro"), "--benchmark_format=json", "--benchmark_min_time=0.03",
+            command = [self.tool("bench-micro"), "--benchmark_format=json", "--benchmark_min_time=0.1",
                        f"--benchmark_filter=^({'|'.join(wanted)})"]
             for _ in range(rounds):
                 output = subprocess.run(command, cwd=place, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
