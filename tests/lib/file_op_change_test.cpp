@@ -106,16 +106,15 @@ TEST_F(FileOp, RenameAcrossVolumes) {
             fs::create_symlink(text, name);
         }
         fs::create_directory("b/dir");
-        symlink(std::string(1024, 'x').c_str(), "a/too-long");
         for (Text name : {"a/fifo", "a/tree/fifo", "b/hangs"}) {
             mkfifo(name, 0600);
             chmod(name, 0666);
         }
         const Rows<Text, Text, int> rows = {
-            {"a/tree", "b/old", -3},   {"a/1", "b/dir", -3},     {"a/link", "b/dir", -3}, {"a/fifo", "b/dir", -3},
-            {"a/too-long", "b/x", -3}, {"a/link", "b/no/x", -3}, {"a/1", "b/old", 0},     {"a/2", "b/to-source", 0},
-            {"a/3", "b/to-other", 0},  {"a/4", "b/dangling", 0}, {"a/link", "b/old", 0},  {"a/fifo", "b/old", 0},
-            {"a/to-dir", "b/new", 0},  {"a/5", "b/hangs", 0},    {"a/tree", "b/tree", 0}};
+            {"a/tree", "b/old", -3},  {"a/1", "b/dir", -3},   {"a/link", "b/dir", -3},   {"a/fifo", "b/dir", -3},
+            {"a/link", "b/no/x", -3}, {"a/1", "b/old", 0},    {"a/2", "b/to-source", 0}, {"a/3", "b/to-other", 0},
+            {"a/4", "b/dangling", 0}, {"a/link", "b/old", 0}, {"a/fifo", "b/old", 0},    {"a/to-dir", "b/new", 0},
+            {"a/5", "b/hangs", 0},    {"a/tree", "b/tree", 0}};
         for (const auto& [from, to, result] : rows) { TestRename(from, to, false, result); }
         EXPECT_EQ(ReadFile("b/other") + Content("a/no") + Content("b/no"), "b/other00");
         WriteFile("a/tree/sub/x", "new");
