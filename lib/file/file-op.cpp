@@ -287,7 +287,12 @@ int WriteAll(int file, char const* bytes, ssize_t size) {
 }
 
 int CopyBytes(int from, int to) {
-    const MallocPtr<char> buffer(static_cast<char*>(std::malloc(kCopyBuffer)));
+    // Kept for the thread's next file: to map it anew takes as long as a small file's copy. What no
+    // file has filled is not in memory.
+    thread_local MallocPtr<char> buffer;
+    if (!buffer) {
+        buffer.reset(static_cast<char*>(std::malloc(kCopyBuffer)));
+    }
     if (!buffer) {
         const int error = errno;
         Logger::LogMsg(LOG_LINE(ERROR, "FSCopy: malloc(%d): %s (%d)\n"), kCopyBuffer,
