@@ -188,14 +188,6 @@ class ustring {
     int compare(ustring const& other, unsigned long n) const;
     static int compare(ustring const& a, ustring const& b, bool ignore_case);
 
-    // What the relational operators stand on: negative, 0 or positive. The first bytes tell most
-    // keys of a map apart, without a call.
-    static int byte_order(ustring const& left, ustring const& right) {
-        const int first =
-            static_cast<unsigned char>(*left.data) - static_cast<unsigned char>(*right.data);
-        return first != 0 ? first : std::strcmp(left.data, right.data);
-    }
-
     // The normalised text, with both views current; empty for an empty source, and, after a warning
     // on std::cerr, for one that is not UTF-8.
     static ustring normalize(ustring const& source, normalization_form form);
@@ -249,25 +241,35 @@ ustring operator+(ustring const& left, char right);
 ustring operator+(ustring const& left, unsigned short const* right);
 ustring operator+(ustring const& left, unsigned short right);
 
+namespace ustring_detail {
+
+// As strcmp(3). The first bytes tell most keys of a map apart, without a call.
+inline int order(ustring const& left, ustring const& right) {
+    const int first = static_cast<unsigned char>(left[0]) - static_cast<unsigned char>(right[0]);
+    return first != 0 ? first : std::strcmp(left.c_str(), right.c_str());
+}
+
+}  // namespace ustring_detail
+
 // Byte order of the UTF-8 texts up to their first NUL: the composed and the decomposed form of one
 // text differ. <= and >= are true for equal texts.
 inline bool operator==(ustring const& left, ustring const& right) {
-    return ustring::byte_order(left, right) == 0;
+    return ustring_detail::order(left, right) == 0;
 }
 inline bool operator!=(ustring const& left, ustring const& right) {
-    return ustring::byte_order(left, right) != 0;
+    return ustring_detail::order(left, right) != 0;
 }
 inline bool operator<(ustring const& left, ustring const& right) {
-    return ustring::byte_order(left, right) < 0;
+    return ustring_detail::order(left, right) < 0;
 }
 inline bool operator>(ustring const& left, ustring const& right) {
-    return ustring::byte_order(left, right) > 0;
+    return ustring_detail::order(left, right) > 0;
 }
 inline bool operator<=(ustring const& left, ustring const& right) {
-    return ustring::byte_order(left, right) <= 0;
+    return ustring_detail::order(left, right) <= 0;
 }
 inline bool operator>=(ustring const& left, ustring const& right) {
-    return ustring::byte_order(left, right) >= 0;
+    return ustring_detail::order(left, right) >= 0;
 }
 
 // Writes the bytes of the UTF-8 text up to its first NUL.
