@@ -1,6 +1,4 @@
 // Any bytes as a package: what was written can be removed again, as a rollback must.
-#include <archive.h>
-#include <archive_entry.h>
 #include <sys/mman.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -12,22 +10,22 @@
 
 #include "file/file-op.h"
 #include "log.h"
+#include "ui-client/launcher/archive-handles.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/str-table.h"
 #include "unique-fd.h"
 
 // A package is trusted with its links, and this one might write anywhere through them.
 static bool HasLinks(const std::string& package) {
-    archive* const reader = archive_read_new();
-    archive_read_support_filter_all(reader);
-    archive_read_support_format_all(reader);
-    archive_read_open_filename(reader, package.c_str(), 10240);
+    const ArchiveReader reader(archive_read_new());
+    archive_read_support_filter_all(reader.get());
+    archive_read_support_format_all(reader.get());
+    archive_read_open_filename(reader.get(), package.c_str(), 10240);
     bool links = false;
     archive_entry* entry = nullptr;
-    while (!links && archive_read_next_header(reader, &entry) == ARCHIVE_OK) {
+    while (!links && archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
         links = archive_entry_symlink(entry) != nullptr || archive_entry_hardlink(entry) != nullptr;
     }
-    archive_read_free(reader);
     return links;
 }
 

@@ -39,7 +39,7 @@ TEST(ConfigTest, LinesThatAreTakenAndLinesThatRefuseTheWholeFile) {
         WriteFile(dir / "file", row[0]);
         EXPECT_EQ(Read(dir / "file"), "0" + row[1] + "(~:former)") << row[0];
     }
-    const int descriptor = NextDescriptor();
+    const long descriptors = OpenDescriptors();
     for (const char* line :
          {"key\n", "key=\n",      "key=",        "key = a b\n", "key=   # why\n", "key #why\n", "ke y=1\n",
           "k:v\n", "[Version]\n", ";comment\n",  "k=\"abc\n",   "k='abc",         "k=\"a\"b\n", "k='a\"\n",
@@ -49,7 +49,7 @@ TEST(ConfigTest, LinesThatAreTakenAndLinesThatRefuseTheWholeFile) {
     }
     EXPECT_EQ(Read("") + Read(dir / "missing"), "-1(~:former)-1(~:former)");
     EXPECT_EQ(Read(dir.path()), "0(~:former)");  // a read error is an end
-    EXPECT_EQ(NextDescriptor(), descriptor) << "a file stayed open";
+    EXPECT_EQ(OpenDescriptors(), descriptors) << "a file stayed open";
 }
 
 TEST(ConfigTest, GetIntTakesTheLeadingDecimalNumber) {

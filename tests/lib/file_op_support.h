@@ -4,7 +4,6 @@
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 
 #include <regex>
 #include <set>
@@ -13,6 +12,7 @@
 
 #include "file/file-op.h"
 #include "log.h"
+#include "tests/in_child.h"
 #include "tests/temp_dir.h"
 
 namespace fs = std::filesystem;
@@ -49,28 +49,7 @@ inline bool OwnMounts() {
     return unshare(CLONE_NEWNS) == 0 && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
-// Runs `body` in a child process that `prepare` makes ready: what fails there fails the test. It is
-// skipped if `prepare` is refused.
-template <class Prepare, class Body>
-void InChild(Prepare prepare, Body body) noexcept {
-    std::fflush(nullptr);
-    const pid_t child = fork();
-    if (child == 0) {
-        const bool ready = prepare();
-        ready ? body() : void();
-        std::fflush(nullptr);
-        _exit(ready ? testing::Test::HasFailure() : 77);
-    }
-    int status = -1;
-    waitpid(child, &status, 0);
-    if (WIFEXITED(status) && WEXITSTATUS(status) == 77) {
-        GTEST_SKIP() << "This user may neither mount nor become another.";
-    }
-    EXPECT_EQ(status, 0);
-}
-
-// Works in a directory that any user may enter, with one object of each kind, and logs at the
-// default level.
+// Works in a directory that any user may enter, with one object of each kind, and logs at the default level.
 class FileOp : public testing::Test {
   protected:
     FileOp() {
@@ -84,10 +63,10 @@ class FileOp : public testing::Test {
         fs::create_symlink("nowhere", "dangling");
         mkfifo("fifo", 0600);
         mknod("socket", S_IFSOCK | 0600, 0);
-        descriptor_ = NextDescriptor();
+        descriptors_ = OpenDescriptors();
     }
     ~FileOp() override {
-        EXPECT_EQ(NextDescriptor(), descriptor_);
+        EXPECT_EQ(OpenDescriptors(), descriptors_);
         fs::current_path("/");
         Logger::Destroy();
     }
@@ -104,5 +83,5 @@ class FileOp : public testing::Test {
     }
 
     TempDir logs_, at_;
-    int descriptor_ = 0;
+    long descriptors_ = 0;
 };

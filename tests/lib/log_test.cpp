@@ -53,7 +53,7 @@ class LoggerTest : public testing::Test {
   protected:
     ~LoggerTest() override {
         Logger::Destroy();
-        EXPECT_EQ(NextDescriptor(), descriptor_);
+        EXPECT_EQ(OpenDescriptors(), descriptors_);
     }
 
     int Open(const std::string& path, int rotate_cnt = 50, const std::string& levels = "") {
@@ -70,7 +70,7 @@ class LoggerTest : public testing::Test {
         return all;
     }
 
-    const int descriptor_ = NextDescriptor();
+    const long descriptors_ = OpenDescriptors();
     TempDir dir_;
     const std::string log_ = dir_ / "log";
 };
@@ -111,11 +111,15 @@ TEST_F(LoggerTest, LongLinesAreWholeAndCountWhenTheyAreWritten) {
     EXPECT_EQ(LoggerTestPeer::size(), 0);
 }
 
-// In a process of its own, in which nobody has called Initialize.
+// In a process of its own: nobody has called Initialize before the first lines, of two threads.
 TEST(LoggerDeathTest, LinesGoToTheStreamOfTheTypeAndToTheFormerOneOnFailure) {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     const auto run = [] {
+        g_locks_made = 0;
+        std::thread other([] { Log(4, "a", "early\n"); });
         Log(4, "a", "early\n");
+        other.join();
+        Log(g_locks_made == 1 ? "one lock" : "two locks");
         Log(5, "a", "silent\n");
         std::fflush(stdout);
         dup2(STDERR_FILENO, STDOUT_FILENO);
@@ -132,14 +136,14 @@ TEST(LoggerDeathTest, LinesGoToTheStreamOfTheTypeAndToTheFormerOneOnFailure) {
         std::exit(0);
     };
     EXPECT_EXIT(run(), testing::ExitedWithCode(0),
-                "^.{16}early\n.{16}failed\n.{16}stdout\ntag: syslog\n.{16}stderr\n$");
+                "^.{16}early\n.{16}early\n.{16}one lock\n.{16}failed\n.{16}stdout\ntag: syslog\n.{16}stderr\n$");
 }
 
 // While no descriptor is left.
 int RotateWithoutDescriptors() {
     rlimit former;
     getrlimit(RLIMIT_NOFILE, &former);
-    const rlimit none = {NextDescriptor() + 0u, former.rlim_max};
+    const rlimit none = {LoggerTestPeer::descriptor() + 1u, former.rlim_max};
     setrlimit(RLIMIT_NOFILE, &none);
     const int result = Logger::Rotate();
     setrlimit(RLIMIT_NOFILE, &former);
@@ -200,20 +204,6 @@ TEST_F(LoggerTest, APathIsTooLongWhenItsNumbersDoNotFit) {
         EXPECT_EQ(LoggerTestPeer::size(), 0);
         EXPECT_EQ(TakeFiles(), length == 1021 ? "log: log_0:x " : "log:x ");
     }
-}
-
-// As in a process that has not called Initialize.
-TEST_F(LoggerTest, FirstLinesOfTwoThreadsMakeOneLock) {
-    ASSERT_EQ(Open(log_), 0);
-    Logger::DestroySharedData();
-    Logger::DestroyLock();
-    g_locks_made = 0;
-    std::thread other([] { Log("x"); });
-    Log("x");
-    other.join();
-    EXPECT_EQ(TakeFiles(), "log:xx ");
-    EXPECT_EQ(LoggerTestPeer::size(), 2 * kLine);
-    EXPECT_EQ(g_locks_made, 1);
 }
 
 TEST_F(LoggerTest, ThreadsLoseAndMixNoLineWhileTheFileRotates) {

@@ -172,9 +172,7 @@ TEST(UstringSearchTest, EveryFamilyAndEveryKindOfNeedle) {
         EXPECT_EQ(Search(row.text, row.needle, row.pos), row.found);
         EXPECT_EQ(Search(row.text, ustring(row.needle), row.pos), row.found);
         EXPECT_EQ(Search(row.text, std::string(row.needle) + '\0' + "a", row.pos), row.found);
-        if (std::strlen(row.needle) < 2) {
-            EXPECT_EQ(Search(row.text, row.needle[0], row.pos), row.found);
-        }
+        if (std::strlen(row.needle) < 2) { EXPECT_EQ(Search(row.text, row.needle[0], row.pos), row.found); }
     }
 }
 
