@@ -1,6 +1,5 @@
-// Runs the tests in a child process with a directory for temporary files of its own, and takes away
-// what they leave behind: orphans are adopted, so that one that ends is gone at once, whatever
-// process 1 does.
+// Runs the tests in a child process with a directory for temporary files of its own, and takes away what they leave
+// behind: orphans are adopted, so that one that ends is gone at once, whatever process 1 does.
 #include <sys/prctl.h>
 #include <sys/wait.h>
 
@@ -35,14 +34,10 @@ int main(int argc, char** argv) {
     const TempDir dir;
     prctl(PR_SET_CHILD_SUBREAPER, 1);
     const pid_t tests = fork();
-    if (tests == 0) {
-        std::exit(RunTests(dir, argc, argv));
-    }
+    if (tests == 0) { std::exit(RunTests(dir, argc, argv)); }
     int status = 0;
     while (wait(&status) != tests) {}
     EndOrphans();
-    if (WIFSIGNALED(status)) {
-        psignal(WTERMSIG(status), argv[0]);
-    }
+    if (WIFSIGNALED(status)) { psignal(WTERMSIG(status), argv[0]); }
     return WIFEXITED(status) ? WEXITSTATUS(status) : 1;
 }

@@ -30,14 +30,10 @@ inline void MakeArchive(const std::string& path, const std::vector<ArchiveMember
         archive_entry_set_mode(header, (mode <= kSparse ? S_IFREG : mode) | 0755);
         archive_entry_set_rdevmajor(header, 1);  // overlayfs refuses 0, 0
         archive_entry_set_hardlink(header, mode == kHardLink ? content.c_str() : nullptr);
-        if (mode == S_IFLNK) {
-            archive_entry_set_symlink(header, content.c_str());
-        }
+        if (mode == S_IFLNK) { archive_entry_set_symlink(header, content.c_str()); }
         const auto size = static_cast<la_int64_t>(content.size());
         archive_entry_set_size(header, mode == S_IFREG || mode == kSparse ? size : 0);
-        if (mode == kSparse) {
-            archive_entry_sparse_add_entry(header, 0, size / 2);
-        }
+        if (mode == kSparse) { archive_entry_sparse_add_entry(header, 0, size / 2); }
         archive_write_header(writer, header);
         archive_write_data(writer, content.data(), content.size());
         archive_entry_free(header);

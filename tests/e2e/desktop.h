@@ -24,8 +24,7 @@ class Desktop {
     QString display_;
 };
 
-// Makes the pid file a FIFO (fifo(7)): an upgrade shows its window, then waits for the gate to
-// open.
+// Makes the pid file a FIFO (fifo(7)): an upgrade shows its window, then waits for the gate to open.
 void CloseGate(const World& world);
 void OpenGate(const World& world);
 

@@ -71,9 +71,7 @@ World::World(const std::string& name) : home_name(name), environment(QProcessEnv
 World::~World() {
     for (const auto& process : fs::directory_iterator("/proc")) {
         const pid_t pid = std::atoi(process.path().filename().c_str());
-        if (pid > 1 && Contains(ReadFile(process.path() / "environ"), "=" + dir.path())) {
-            Kill(pid);
-        }
+        if (pid > 1 && Contains(ReadFile(process.path() / "environ"), "=" + dir.path())) { Kill(pid); }
     }
     for (const std::string& lock : Locks()) { fs::remove(lock); }
 }
@@ -82,9 +80,7 @@ std::vector<std::string> World::Locks() const {
     std::vector<std::string> locks;
     for (const auto& file : fs::directory_iterator("/tmp")) {
         const std::string path = file.path();
-        if (Contains(path, "/quillmere-launcher-") && Contains(ReadFile(path), dir.path())) {
-            locks.push_back(path);
-        }
+        if (Contains(path, "/quillmere-launcher-") && Contains(ReadFile(path), dir.path())) { locks.push_back(path); }
     }
     return locks;
 }
@@ -158,9 +154,7 @@ bool Contains(const std::string& text, const std::string& part) { return text.fi
 bool WaitFor(const std::function<bool()>& condition, int seconds) {
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
     while (!condition()) {
-        if (std::chrono::steady_clock::now() > end) {
-            return false;
-        }
+        if (std::chrono::steady_clock::now() > end) { return false; }
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
     return true;
@@ -182,7 +176,5 @@ void Kill(pid_t pid) {
 const uid_t kLoner = 100000 + static_cast<uid_t>(getpid());
 
 void BecomeLoner() {
-    if (setgid(kLoner) != 0 || setuid(kLoner) != 0) {
-        _exit(99);
-    }
+    if (setgid(kLoner) != 0 || setuid(kLoner) != 0) { _exit(99); }
 }

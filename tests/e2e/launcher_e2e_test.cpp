@@ -37,9 +37,7 @@ TEST(Launch, UpgradesAndLeavesACurrentCopyAlone) {
 // As a user who owns nothing else: a signal that goes astray, to a group or to all, must not end
 // the machine. Meanwhile another launcher has a client that must be killed.
 TEST(Launch, StopsTheClientAndNobodyElse) {
-    if (getuid() != 0) {
-        GTEST_SKIP() << "needs root to become another user";
-    }
+    if (getuid() != 0) { GTEST_SKIP() << "needs root to become another user"; }
     World stubborn;
     stubborn.Have(1);
     stubborn.Offer(2);

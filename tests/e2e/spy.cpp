@@ -56,9 +56,7 @@ class Plugin : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "spy.json")
 
     QObject* create(const QString&, const QString& what) override {
-        if (what == "exit" && QGuiApplication::platformName() == "xcb") {
-            std::exit(1);
-        }
+        if (what == "exit" && QGuiApplication::platformName() == "xcb") { std::exit(1); }
         qApp->installEventFilter(this);
         return new QObject;
     }

@@ -64,9 +64,7 @@ std::function<void(World&)> WithPlugins(const QString& display, std::size_t at, 
         for (const std::string name : {"/platforms/libqxcb.so", "/platforms/libqoffscreen.so"}) {
             std::string plugin = ReadFile(QT_PLUGINS + name);
             plugin.replace(at, count, std::min(count, plugin.size() - at), 0);
-            if (count > 0) {
-                WriteFile(world.Plugins() + name, plugin);
-            }
+            if (count > 0) { WriteFile(world.Plugins() + name, plugin); }
         }
     };
 }
@@ -122,9 +120,7 @@ TEST(Start, InSessionsOfManyKinds) {
 
 // A limit of one is the launcher itself, which then becomes the client.
 TEST(Start, WithoutThreadsProcessesOrAHome) {
-    if (getuid() != 0) {
-        GTEST_SKIP() << "needs root to become another user";
-    }
+    if (getuid() != 0) { GTEST_SKIP() << "needs root to become another user"; }
     for (const rlim_t limit : {1, 2, 3, 4000}) {
         const bool has_home = limit != 4000;
         World world;

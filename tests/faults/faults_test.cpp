@@ -1,6 +1,5 @@
-// Kills the launcher, fails its calls and cuts its power at every call that it makes on its files,
-// and holds what it leaves behind against the rules. Walks a spread of these points, or all of them
-// with QUILLMERE_FAULTS=all.
+// Kills the launcher, fails its calls and cuts its power at every call that it makes on its files, and holds what it
+// leaves behind against the rules. Walks a spread of these points, or all of them with QUILLMERE_FAULTS=all.
 #include <sys/resource.h>
 
 #include <algorithm>
@@ -31,8 +30,7 @@ PackageEntries Client(char build) {
             {kInfo, "[Version]\nbuild_version=" + std::string(1, build) + "\n"}};
 }
 
-// What may stand in USER; all else is "torn" or, if it could be opened as a client, "a torn
-// client".
+// What may stand in USER; all else is "torn" or, if it could be opened as a client, "a torn client".
 const std::map<std::string, PackageEntries> kKinds{{"old", Client('1')},
                                                    {"new", Client('2')},
                                                    {"no version", {{kExecutable, ""}}},
@@ -102,9 +100,7 @@ User Next(User user, Package package) {
     const bool there = user.count(kApp) != 0;
     int index = 0;
     while (there && index < 10 && user.count(Backup(index)) != 0 && user[Backup(index)] != "empty") { ++index; }
-    if (index == 10 || (there && user[kApp] == "new")) {
-        return user;
-    }
+    if (index == 10 || (there && user[kApp] == "new")) { return user; }
     for (int passed = package == kGood ? 0 : index; passed <= index && (there || package == kGood); ++passed) {
         user.erase(Backup(passed));  // after a failure it is the empty one that was taken
     }
@@ -166,9 +162,7 @@ class Faults : public testing::TestWithParam<Scenario> {
         const int ended = RunSupervised(world_, places, [&](const FileCall& call) {
             const bool hit = ++calls_ == at || (calls_ > at && fault.onward);
             const bool fit = fault.answer != kHalfOfTheWrite || call.what == kWrite;
-            if (hit) {
-                Happen(fault.event);
-            }
+            if (hit) { Happen(fault.event); }
             return hit && fit && fault.answer != kGoOn ? fault.answer : Note(call);
         });
         if (fault.event == kHomeIsLost) {
@@ -181,9 +175,7 @@ class Faults : public testing::TestWithParam<Scenario> {
         EXPECT_EQ(ended, killed ? -1 : 0);
         for (const std::string& path : unflushed_) {
             const bool survives = fault.power == kFailsAfterTheVersion && path == InfoPath();
-            if (fault.power != kStays && !survives && fs::is_regular_file(path)) {
-                fs::resize_file(path, 0);
-            }
+            if (fault.power != kStays && !survives && fs::is_regular_file(path)) { fs::resize_file(path, 0); }
         }
         User now = Get();
         const auto holds = [](const User& user, const std::string& kind) {
@@ -213,28 +205,21 @@ class Faults : public testing::TestWithParam<Scenario> {
         }
     }
 
-    // What is written lasts from the next flush on. The version and the end of a backup wait for
-    // it.
+    // What is written lasts from the next flush on. The version and the end of a backup wait for it.
     int Note(const FileCall& call) {
         const bool of_copy = call.path.rfind(world_.App() + "/", 0) == 0;
         const bool of_backup = call.path.rfind(world_.App() + "_tmp", 0) == 0;
         if (call.what == kFlush) {
-            if (++flushes_ == 2 && package_ == kOverQuota) {
-                return -EDQUOT;
-            }
+            if (++flushes_ == 2 && package_ == kOverQuota) { return -EDQUOT; }
             unflushed_.clear();
             return kSuccessWithoutIt;
         }
-        if (call.what == kRemove || call.what == kMake) {
-            unflushed_.erase(call.path);
-        }
+        if (call.what == kRemove || call.what == kMake) { unflushed_.erase(call.path); }
         if (call.what == kRemove ? of_backup : call.what == kMake && call.path == InfoPath()) {
             EXPECT_EQ(unflushed_, std::set<std::string>()) << "before " << call.path;
         }
         const bool writes = call.what == kMake || call.what == kWrite;
-        if (of_copy ? writes : of_backup && call.what == kRename) {
-            unflushed_.insert(call.path);
-        }
+        if (of_copy ? writes : of_backup && call.what == kRename) { unflushed_.insert(call.path); }
         return kGoOn;
     }
 
@@ -277,16 +262,12 @@ TEST_P(Faults, LoseNothingAndTheNextRunMendsThem) {
         for (const Fault& fault : faults) {
             const auto number = static_cast<int>(&fault - faults.data());
             const int step = fault.answer == kKillBefore ? 151 : 499;
-            if (!all && (at * 19 + number + calls) % step != 0) {
-                continue;
-            }
+            if (!all && (at * 19 + number + calls) % step != 0) { continue; }
             SCOPED_TRACE("fault " + std::to_string(number) + " at call " + std::to_string(at));
             ++points;
             Put(start_);
             Run(fault, at);
-            if (fault.again != 0) {
-                Run({kKillBefore, false, fault.power}, 1 + at * fault.again % calls);
-            }
+            if (fault.again != 0) { Run({kKillBefore, false, fault.power}, 1 + at * fault.again % calls); }
             RunUndisturbed();
             if (package_ != kGood) {
                 Offer(kGood);
@@ -312,9 +293,7 @@ TEST(Starts, AtOnceAndKilledAtRandom) {
         for (int start = 0; start < 30; ++start) {
             world.environment.insert("XDG_RUNTIME_DIR", start % 2 == 0 ? "/nowhere" : "/tmp");
             starts.push_back(world.Start());
-            if (build == 2 && random() % 3 == 0) {
-                starts[random() % starts.size()]->kill();
-            }
+            if (build == 2 && random() % 3 == 0) { starts[random() % starts.size()]->kill(); }
         }
         for (const auto& start : starts) {
             start->waitForFinished();

@@ -112,9 +112,7 @@ inline int RunSupervised(const World& world, const std::vector<std::string>& pla
     pollfd ready{listener.get(), POLLIN, 0};
     while (process->state() != QProcess::NotRunning || (ready.revents & POLLHUP) == 0) {
         seccomp_notif request{};
-        if (!listener.valid() || timer.hasExpired(60000)) {
-            process->kill();
-        }
+        if (!listener.valid() || timer.hasExpired(60000)) { process->kill(); }
         if (poll(&ready, 1, 10) <= 0 || (ready.revents & POLLIN) == 0) {
             process->waitForFinished(0);
             while (process->state() == QProcess::NotRunning && waitpid(-1, nullptr, WNOHANG) > 0) {}
@@ -129,15 +127,11 @@ inline int RunSupervised(const World& world, const std::vector<std::string>& pla
                            std::any_of(places.begin(), places.end(),
                                        [&](const std::string& place) { return call.path.rfind(place, 0) == 0; });
         const int decision = asked ? answer(call) : kGoOn;
-        if (decision == kKillBefore) {
-            process->kill();
-        }
+        if (decision == kKillBefore) { process->kill(); }
         seccomp_notif_resp response{};
         response.id = request.id;
         response.error = std::min(decision, 0);
-        if (decision == kHalfOfTheWrite && call.what == kWrite) {
-            response.val = WriteHalf(launcher, request.data);
-        }
+        if (decision == kHalfOfTheWrite && call.what == kWrite) { response.val = WriteHalf(launcher, request.data); }
         const bool done = response.error != 0 || response.val != 0 || decision == kSuccessWithoutIt;
         response.flags = done ? 0 : SECCOMP_USER_NOTIF_FLAG_CONTINUE;
         ioctl(listener.get(), SECCOMP_IOCTL_NOTIF_SEND, &response);

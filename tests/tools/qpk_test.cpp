@@ -28,8 +28,6 @@ class QpkTest : public testing::Test {
     const TempDir dir_;
 };
 
-bool Has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
-
 TEST_F(QpkTest, MakeListsEveryFaultOfAClient) {
     const std::string n(240, 'n');
     const std::pair<std::string, std::string> faults[] = {
@@ -52,27 +50,25 @@ TEST_F(QpkTest, MakeListsEveryFaultOfAClient) {
     for (const auto& fault : faults) { ASSERT_EQ(Shell("cd c && " + fault.first).exit_code, 0) << fault.first; }
     const Result run = Shell("$Q make c -o p");
     EXPECT_EQ(run.exit_code, 1);
-    for (const auto& fault : faults) { EXPECT_TRUE(Has(run.err, fault.second)) << fault.second; }
+    for (const auto& fault : faults) { EXPECT_TRUE(Contains(run.err, fault.second)) << fault.second; }
     EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), std::size(faults)) << run.err;
     EXPECT_FALSE(fs::exists(dir_ / "p"));
     for (const std::string version : {"12a", "-1", "+1", "2147483648", "''"}) {
         EXPECT_EQ(Shell("$Q make c -o p --build " + version).exit_code, 2) << version;
     }
-    EXPECT_TRUE(Has(Shell("rm -r c/* && $Q make c -o p").err, "INFO: is missing"));
+    EXPECT_TRUE(Contains(Shell("rm -r c/* && $Q make c -o p").err, "INFO: is missing"));
 }
 
 TEST_F(QpkTest, PackagesAreReproducibleAndInstall) {
     const Result made = Shell(
-        "umask 077; cd c; mv Contents/MacOS/{quillmere-ui,x}; ln -s ./y "
-        "Contents/MacOS/quillmere-ui; ln -s x Contents/MacOS/y;"
-        "mkdir -p a/b; ln -s ../../a/./b a/b/link; touch a/X a/b/x; chmod g+s a; cd ..;"
+        "umask 077; cd c; mv Contents/MacOS/{quillmere-ui,x}; ln -s ./y Contents/MacOS/quillmere-ui;"
+        "ln -s x Contents/MacOS/y; mkdir -p a/b; ln -s ../../a/./b a/b/link; touch a/X a/b/x; chmod g+s a; cd ..;"
         "head -c 300000 /dev/urandom > noise; ln noise c/noise; cp -r c d;"
         "chmod 555 c/a/b; export SOURCE_DATE_EPOCH=5;"
         "$Q make d -o 2 --build 7; $Q make c -o 1 --build 7 && cmp 1 2 && $Q list 1");
     EXPECT_EQ(made.exit_code, 0) << made.err;
     EXPECT_EQ(made.out,
-              "Contents\nContents/MacOS\nContents/MacOS/quillmere-ui\nContents/MacOS/x\nContents/"
-              "MacOS/y\n"
+              "Contents\nContents/MacOS\nContents/MacOS/quillmere-ui\nContents/MacOS/x\nContents/MacOS/y\n"
               "Contents/R\na\na/X\na/b\na/b/link\na/b/x\nnoise\nContents/Resources/INFO\n");
     EXPECT_EQ(Shell("$Q check 1").exit_code, 0);
     EXPECT_NE(Shell("$Q make d -o 3 --build 7 && cmp 1 3").exit_code, 0) << "the time is not used";
@@ -100,16 +96,15 @@ TEST_F(QpkTest, CheckTellsWhatOtherPackersDoWrong) {
     };
     Shell(
         "$Q make c -o p --build 7; cd c && mv Contents/R . && tar -xf ../p Contents/Resources &&"
-        "tar -czf ../good ./Contents/MacOS Contents/Resources; cd ..; cp -r c B; sed -i s/7/8/ "
-        "B/*/*/INFO");
+        "tar -czf ../good ./Contents/MacOS Contents/Resources; cd ..; cp -r c B; sed -i s/7/8/ B/*/*/INFO");
     EXPECT_EQ(Shell("$Q check good").exit_code, 0);
     for (const auto& package : packages) {
         ASSERT_EQ(Shell("cd c && " + package.first).exit_code, 0) << package.first;
         const Result run = Shell("$Q check p --bundle B");
         EXPECT_EQ(run.exit_code, 1);
-        EXPECT_TRUE(Has(run.err, package.second)) << package.first << "\n" << run.err;
+        EXPECT_TRUE(Contains(run.err, package.second)) << package.first << "\n" << run.err;
     }
-    EXPECT_TRUE(Has(Shell("$Q info good --json").out, "\"build_version\": \"7\""));
+    EXPECT_TRUE(Contains(Shell("$Q info good --json").out, "\"build_version\": \"7\""));
     EXPECT_EQ(Shell("$Q check nothing").exit_code, 3);
 }
 
@@ -122,14 +117,14 @@ TEST_F(QpkTest, BundleInstallsItsClient) {
     ASSERT_EQ(Shell(line + bundle).exit_code, 0);
     EXPECT_EQ(Shell("$Q check --bundle" + bundle).exit_code, 0);
     EXPECT_EQ(Shell("find" + bundle + "-name '*.so' -o -name '*.png' | wc -l").out, "3\n");
-    EXPECT_TRUE(Has(ReadFile(world.Bundle() + "/Contents/Info.plist"), "<string>7</string>"));
-    EXPECT_TRUE(Has(ReadFile(dir_ / "d"), "\\ Drive.app/Contents/Resources/INFO:"));
-    EXPECT_TRUE(Has(ReadFile(dir_ / "d"), dir_ / "c/Contents/MacOS/quillmere-ui"));
+    EXPECT_TRUE(Contains(ReadFile(world.Bundle() + "/Contents/Info.plist"), "<string>7</string>"));
+    EXPECT_TRUE(Contains(ReadFile(dir_ / "d"), "\\ Drive.app/Contents/Resources/INFO:"));
+    EXPECT_TRUE(Contains(ReadFile(dir_ / "d"), dir_ / "c/Contents/MacOS/quillmere-ui"));
     EXPECT_EQ(world.Launch().exit_code, 0);
     EXPECT_NE(world.WaitForClient(), 0);
     EXPECT_EQ(world.Installed(), "7");
     Shell("mkdir P; cp -r " QT_PLUGINS "/platforms P; sed -i s/XcbQpa.so.5/XcbQpa.so.9/ P/*/libqxcb.so");
-    EXPECT_TRUE(Has(Shell(line + "b --plugins P").err, "XcbQpa.so.9 => not found"));
+    EXPECT_TRUE(Contains(Shell(line + "b --plugins P").err, "XcbQpa.so.9 => not found"));
 }
 
 }  // namespace

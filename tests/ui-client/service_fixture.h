@@ -1,12 +1,28 @@
-// A home of the test's own, and a log with everything in it.
+// What the tests of the service and of the extractor share.
 #pragma once
 
 #include <QCoreApplication>
+#include <map>
 
 #include "log.h"
 #include "temp_dir.h"
 #include "ui-client/launcher/str-table.h"
 
+// Contents by path: "/" for a directory, an arrow and the name of the target for a link.
+using Tree = std::map<std::string, std::string>;
+
+inline Tree Look(const std::string& directory) {
+    Tree tree;
+    for (const auto& file : std::filesystem::recursive_directory_iterator(directory)) {
+        tree[file.path().lexically_relative(directory)] =
+            file.is_symlink()        ? "->" + std::filesystem::read_symlink(file).filename().string()
+            : file.is_regular_file() ? ReadFile(file.path())
+                                     : "/";
+    }
+    return tree;
+}
+
+// A home of the test's own, and a log with everything in it.
 class ServiceTest : public testing::Test {
   protected:
     ServiceTest() {
@@ -21,10 +37,7 @@ class ServiceTest : public testing::Test {
 
     std::string LogPath() const { return home / "log"; }
     int LogLines(const std::string& part) const {
-        const std::string log = ReadFile(LogPath());
-        int count = 0;
-        for (std::size_t at = log.find(part); at != std::string::npos; at = log.find(part, at + 1)) { ++count; }
-        return count;
+        return QString::fromStdString(ReadFile(LogPath())).count(part.c_str());
     }
 
     const TempDir home;

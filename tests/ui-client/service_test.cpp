@@ -1,13 +1,12 @@
-// The decision, the client's end, a whole run, what cannot be read or removed, and the recursive
-// copy.
+// The decision, the client's end, a whole run, what cannot be read or removed, and the recursive copy.
 #include <signal.h>
-#include <sys/wait.h>
 
 #include <QElapsedTimer>
 #include <algorithm>
 #include <functional>
 #include <regex>
 
+#include "in_child.h"
 #include "ui-client/launcher/launcher.h"
 #include "ui-client/launcher/mac/mac-service.h"
 #include "ui-client/service_fixture.h"
@@ -38,17 +37,6 @@ class FakeExtraction : public MacService {
     std::function<int()> extract_;
 };
 
-// Result: what `action` returns when another user does it.
-int AsNobody(const std::function<int()>& action) {
-    const pid_t child = fork();
-    if (child == 0) {
-        _exit(setuid(65534) != 0 ? 99 : action());
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    return WEXITSTATUS(status);
-}
-
 }  // namespace
 
 TEST_F(ServiceTest, DecisionAndStop) {
@@ -64,9 +52,7 @@ TEST_F(ServiceTest, DecisionAndStop) {
     for (const auto& row : cases) {
         SCOPED_TRACE(std::string(row.source) + " to " + row.target);
         fs::remove_all(App());
-        if (row.present) {
-            WriteFile(App() + kExecutable, "");
-        }
+        if (row.present) { WriteFile(App() + kExecutable, ""); }
         FakeExtraction service([] { return 0; });
         EXPECT_EQ(service.Decide(row.source, row.target), row.upgrade);
         EXPECT_EQ(service.HandlePackageUpgrade(), 0);
@@ -138,14 +124,18 @@ TEST_F(ServiceTest, CopiesTrees) {
     fs::create_directory(home / "from/empty");
     fs::create_symlink("a/b/deep", home / "from/link");
     EXPECT_EQ(copy("from", "to/new"), 0);
-    EXPECT_EQ(ReadFile(home / "to/new/a/b/deep"), "deep");
-    EXPECT_EQ(ReadFile(home / "to/new/with\nnewline"), "line");
-    EXPECT_TRUE(fs::is_empty(home / "to/new/empty"));
-    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(home / "to/new/link")));
-    EXPECT_EQ(copy("from/a/b/deep", "plain"), 0);
-    EXPECT_EQ(ReadFile(home / "plain"), "deep");
+    EXPECT_EQ(copy("from/a/b/deep", "to/plain"), 0);
+    const Tree tree{{"new", "/"},
+                    {"new/a", "/"},
+                    {"new/a/b", "/"},
+                    {"new/a/b/deep", "deep"},
+                    {"new/empty", "/"},
+                    {"new/link", "deep"},
+                    {"new/with\nnewline", "line"},
+                    {"plain", "deep"}};
+    EXPECT_EQ(Look(home / "to"), tree);
     fs::create_symlink("nowhere", home / "from/a/b/dangling");
-    EXPECT_EQ(copy("from", "broken") + copy("none", "x") + copy("from", "plain") + service.FSCopyPath("", "x"), -4);
+    EXPECT_EQ(copy("from", "broken") + copy("none", "x") + copy("from", "to/plain") + service.FSCopyPath("", "x"), -4);
     EXPECT_EQ(LogLines("FSCopyPath: failed to copy from"), 3);  // one on each level of the way up
     EXPECT_EQ(LogLines("FSCopyPath: source path '"), 1);
     EXPECT_EQ(LogLines("FSCopyPath: failed to create dest folder"), 1);
@@ -160,16 +150,13 @@ TEST_F(ServiceTest, NothingStandsBelowAFile) {
 }
 
 TEST_F(ServiceTest, WithoutPermission) {
-    if (getuid() != 0) {
-        GTEST_SKIP() << "needs root to become another user";
-    }
     MacService service;
     WriteFile(home / "from/closed/file", "closed");
     WriteFile(home / "from/open", "open");
     fs::permissions(home / "from/closed", fs::perms::none);
     fs::permissions(home.path(), fs::perms::all);
     // A directory that cannot be opened is left empty, and is no failure.
-    EXPECT_EQ(AsNobody([&] { return service.FSCopyPath((home / "from").c_str(), (home / "to").c_str()); }), 0);
+    InChild(BecomeNobody, [&] { EXPECT_EQ(service.FSCopyPath((home / "from").c_str(), (home / "to").c_str()), 0); });
     EXPECT_EQ(ReadFile(home / "to/open"), "open");
     EXPECT_TRUE(fs::is_empty(home / "to/closed"));
     EXPECT_EQ(LogLines("[WARNING] quillmere-service("), 1);
@@ -182,13 +169,13 @@ TEST_F(ServiceTest, WithoutPermission) {
         fs::permissions(App() + "/Contents", fs::perms::owner_read | fs::perms::owner_exec);
         return -1;
     });
-    EXPECT_EQ(AsNobody([&] { return -stuck.PrepareUserEnv(); }), 1);
+    InChild(BecomeNobody, [&] { EXPECT_EQ(stuck.PrepareUserEnv(), -1); });
     EXPECT_EQ(ReadFile(App() + "_tmp/mark"), "old");
     EXPECT_TRUE(fs::exists(App() + "/Contents/Resources"));
     EXPECT_FALSE(fs::exists(App() + kInfo));
     // Where nothing can be seen, there may be a copy.
     fs::permissions(home / ".Quillmere", fs::perms::none);
-    EXPECT_EQ(AsNobody([&] { return -service.PrepareUserEnv(); }), 1);
+    InChild(BecomeNobody, [&] { EXPECT_EQ(service.PrepareUserEnv(), -1); });
     EXPECT_EQ(LogLines("failed to backup app from '"), 11);
     EXPECT_EQ(LogLines("Quillmere.app_tmp9' at max retries, exiting\n"), 1);
 }
