@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -17,6 +18,11 @@ void OpenStandardStreams() {
     if (descriptor > STDERR_FILENO) {
         close(descriptor);
     }
+}
+
+void KeepOwnersRights() {
+    const mode_t mask = umask(0);
+    umask(mask & ~mode_t{S_IRWXU});
 }
 
 void MakeHomeAbsolute() {

@@ -1,5 +1,6 @@
 // Drives the real launcher with real packages and a real client.
 #include <fcntl.h>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -87,6 +88,7 @@ TEST(Launch, StartedClientStandsAlone) {
             sigaddset(&blocked, number);
         }
         sigprocmask(SIG_BLOCK, &blocked, nullptr);
+        umask(0777);
         open("/dev/zero", O_RDONLY);  // inherited by the launcher, and not by the client
     });
     EXPECT_TRUE(Succeeded(world.Finish(*process), world, 1));

@@ -72,6 +72,7 @@ TEST(Window, NothingThatHappensToItStopsTheRun) {
         {"server killed", kGoes, {}, [](Scene& scene) { scene.desktop.SignalServer(SIGKILL); }},
         {"server frozen", kStays, {}, [](Scene& scene) { scene.desktop.SignalServer(SIGSTOP); }},
         {"log-out", kStays, {}, [](Scene& scene) { scene.Say(kSave); }},
+        {"terminal closed", kStays, {}, [](Scene& scene) { kill(scene.launcher->processId(), SIGHUP); }},
         {"end of the session", kGoes, {}, [](Scene& scene) { scene.Say(kDie); }},
     };
     std::list<Scene> scenes;

@@ -127,8 +127,11 @@ int Run(GuiEnvironment& environment) {
 
 int main(int argc, char** argv) {
     OpenStandardStreams();
+    KeepOwnersRights();
     MakeHomeAbsolute();
     setlocale(LC_ALL, "");
+    // The terminal that the launcher was started from may be closed in the middle of a run.
+    std::signal(SIGHUP, SIG_IGN);
     // Writing to a pipe that nobody reads any more fails with EPIPE, and the run goes on.
     std::signal(SIGPIPE, SIG_IGN);
     // A write beyond the limit of a file's size fails with EFBIG, and the old copy is put back.
