@@ -9,15 +9,17 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// What a session manager says, as it stands on the wire (Inter-Client Exchange Protocol, X Session
-// Management Protocol): ByteOrder, ConnectionReply, ProtocolReply and RegisterClientReply; before
-// the end of the session, SaveYourself; and Die. And the client's SaveYourselfDone.
+// What a session manager says, as it stands on the wire (Inter-Client Exchange Protocol, X Session Management
+// Protocol): ByteOrder, ConnectionReply, ProtocolReply and RegisterClientReply; before the end of the session,
+// SaveYourself; Ping; and Die. And the client's SaveYourselfDone and PingReply.
 const QByteArray kWelcome = QByteArray::fromHex(
     "0001000000000000 00060000010000000000000000000000 00080001010000000000000000000000"
     "01020000010000000100000078000000");
 const QByteArray kSave = QByteArray::fromHex("01030000010000000201020000000000");
 const QByteArray kDie = QByteArray::fromHex("0109000000000000");
 const QByteArray kSaved = QByteArray::fromHex("0108010000000000");
+const QByteArray kPing = QByteArray::fromHex("0009000000000000");
+const QByteArray kPingReply = QByteArray::fromHex("000a");  // the first two bytes of eight
 
 // A launcher in the middle of an upgrade, with its window on a desktop of its own.
 struct Scene {
@@ -39,9 +41,14 @@ struct Scene {
         session->write(words);
         session->flush();
     }
-    bool HasSaved() {
+    bool Hears(const QByteArray& words) {
         session->waitForReadyRead(0);
-        return (heard += session->readAll()).contains(kSaved);
+        return (heard += session->readAll()).contains(words);
+    }
+    // The reply to the ping tells that all was read.
+    void Save() {
+        Say(kSave + kPing);
+        EXPECT_TRUE(WaitFor([this] { return Hears({}) && heard.right(8).startsWith(kPingReply); }));
     }
 
     Desktop desktop;
@@ -71,7 +78,7 @@ TEST(Window, NothingThatHappensToItStopsTheRun) {
         {"manager gone", kStays, {}, [](Scene& scene) { scene.desktop.KillWindowManager(); }},
         {"server killed", kGoes, {}, [](Scene& scene) { scene.desktop.SignalServer(SIGKILL); }},
         {"server frozen", kStays, {}, [](Scene& scene) { scene.desktop.SignalServer(SIGSTOP); }},
-        {"log-out", kStays, {}, [](Scene& scene) { scene.Say(kSave); }},
+        {"log-out", kStays, {}, [](Scene& scene) { scene.Save(); }},
         {"terminal closed", kStays, {}, [](Scene& scene) { kill(scene.launcher->processId(), SIGHUP); }},
         {"end of the session", kGoes, {}, [](Scene& scene) { scene.Say(kDie); }},
     };
@@ -86,14 +93,14 @@ TEST(Window, NothingThatHappensToItStopsTheRun) {
                         scene.desktop.Do(QStringList(row.act).replaceInStrings("WINDOW", window));
                         return window.isEmpty();
                     }));
-        EXPECT_FALSE(scene.HasSaved());
+        EXPECT_FALSE(scene.Hears(kSaved));
         OpenGate(scene.world);
     }
     for (const auto& row : cases) {
         SCOPED_TRACE(row.name);
         Scene& scene = scenes.front();
         EXPECT_TRUE(Succeeded(scene.world.Finish(*scene.launcher), scene.world, 2));
-        EXPECT_EQ(scene.HasSaved(), row.name == std::string("log-out"));
+        EXPECT_EQ(scene.Hears(kSaved), row.name == std::string("log-out"));
         EXPECT_TRUE(scene.world.Locks().empty());
         scenes.pop_front();
     }
