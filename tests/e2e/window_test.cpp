@@ -45,6 +45,7 @@ struct Scene {
         session->waitForReadyRead(0);
         return (heard += session->readAll()).contains(words);
     }
+    void CloseTerminal() const { kill(static_cast<pid_t>(launcher->processId()), SIGHUP); }
     // The reply to the ping tells that all was read.
     void Save() {
         Say(kSave + kPing);
@@ -79,7 +80,7 @@ TEST(Window, NothingThatHappensToItStopsTheRun) {
         {"server killed", kGoes, {}, [](Scene& scene) { scene.desktop.SignalServer(SIGKILL); }},
         {"server frozen", kStays, {}, [](Scene& scene) { scene.desktop.SignalServer(SIGSTOP); }},
         {"log-out", kStays, {}, [](Scene& scene) { scene.Save(); }},
-        {"terminal closed", kStays, {}, [](Scene& scene) { kill(scene.launcher->processId(), SIGHUP); }},
+        {"terminal closed", kStays, {}, [](Scene& scene) { scene.CloseTerminal(); }},
         {"end of the session", kGoes, {}, [](Scene& scene) { scene.Say(kDie); }},
     };
     std::list<Scene> scenes;
