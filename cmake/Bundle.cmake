@@ -49,7 +49,7 @@ function(quillmere_add_bundle target)
       --output ${arg_OUTPUT}
     DEPENDS launcher qpk ${icon} ${arg_DEPENDS} ${client_list}
     DEPFILE ${depfile}
-    COMMENT "Bundle ${arg_OUTPUT}" COMMAND_EXPAND_LISTS VERBATIM)
+    COMMENT "Bundle ${target}" COMMAND_EXPAND_LISTS VERBATIM)
   add_custom_target(${target} ALL DEPENDS ${version_file})
 endfunction()
 
@@ -73,7 +73,7 @@ function(quillmere_list_client result target client)
     add_custom_command(OUTPUT ${always} ${list}
       COMMAND ${CMAKE_COMMAND} -DDIRECTORY=${client} -DLIST=${list}
         -P ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/list-files.cmake
-      DEPENDS ${custom_targets} COMMENT "Files of ${client}" VERBATIM)
+      DEPENDS ${custom_targets} COMMENT "Files of the client of ${target}" VERBATIM)
     set(${result} ${list} PARENT_SCOPE)
   endif()
 endfunction()
