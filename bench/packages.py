@@ -107,11 +107,11 @@ def bundle(app, launcher, plugins, icon, package=None):
     """A bundle around the package. Result: its launcher."""
     contents = pathlib.Path(app) / "Contents"
     remove(app)
-    for directory in ("MacOS", "Frameworks", "Resources/package", "Resources/images"):
+    for directory in ("MacOS", "Frameworks/plugins", "Resources/package", "Resources/images"):
         (contents / directory).mkdir(parents=True)
     shutil.copy(launcher, contents / "MacOS/launcher")
     shutil.copy(icon, contents / "Resources/images/ico_72_quillmere.png")
-    (contents / "Frameworks/plugins").symlink_to(plugins)
+    (contents / "Frameworks/plugins/platforms").symlink_to(pathlib.Path(plugins) / "platforms")
     (contents / "Resources/INFO").write_text(VERSION)
     if package:
         (contents / "Resources/package/quillmere.qpk").symlink_to(os.path.abspath(package))

@@ -73,10 +73,17 @@ void CopyPlugins(const fs::path& from, const fs::path& to) {
     }
 }
 
+// The window systems' alone: what Qt finds of themes and input methods it also loads, and GTK for a
+// theme takes as long as all the rest of a start.
 void LinkPlugins(const fs::path& from, const fs::path& to) {
-    fs::create_directories(to.parent_path());
     fs::remove_all(to);
-    fs::create_directory_symlink(fs::absolute(from), to);
+    fs::create_directories(to);
+    for (const fs::path& kind : fs::directory_iterator(fs::absolute(from))) {
+        const std::string name = kind.filename().string();
+        if (name == "platforms" || name.rfind("wayland-", 0) == 0) {
+            fs::create_directory_symlink(kind, to / name);
+        }
+    }
 }
 
 // Apple's Information Property List, what the desktop there must know of an application.

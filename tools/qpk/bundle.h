@@ -9,7 +9,7 @@ struct BundleOptions {
     std::string launcher;       // the executable
     std::string icon;           // of the window, a PNG
     std::string plugins;        // the directory of Qt's plug-ins
-    bool copy_plugins = false;  // copy those that are needed, else link to the directory
+    bool copy_plugins = false;  // copy those that are needed, else link to the window systems'
     std::string output;         // the bundle, a directory
     std::string depfile;        // what the bundle hangs on, in the syntax of make(1); "" for none
     PackageOptions package;     // all but the name of its file
