@@ -24,17 +24,19 @@ namespace {
 
 constexpr char kPlatforms[] = "QT_QPA_PLATFORM";
 constexpr char kPlatformPlugins[] = "QT_QPA_PLATFORM_PLUGIN_PATH";
+constexpr char kX11[] = "xcb";
+constexpr char kWayland[] = "wayland";
 constexpr char kOffscreen[] = "offscreen";
 constexpr char kSessionBus[] = "DBUS_SESSION_BUS_ADDRESS";
 
 using Platforms = QList<QByteArray>;
 
 bool IsX11(const QByteArray& platform) {
-    return platform.startsWith("xcb");
+    return platform.startsWith(kX11);
 }
 
 bool IsOfTheSession(const QByteArray& platform) {
-    return IsX11(platform) || platform.startsWith("wayland");
+    return IsX11(platform) || platform.startsWith(kWayland);
 }
 
 template <class Predicate>
@@ -45,9 +47,13 @@ void RemoveIf(Platforms& platforms, Predicate predicate) {
 // The user's own list, or what the session offers.
 Platforms WantedPlatforms() {
     const QByteArray given = qgetenv(kPlatforms);
-    Platforms platforms = given.isEmpty() ? Platforms{"xcb"} : given.split(';');
+    Platforms platforms = given.isEmpty() ? Platforms{kX11} : given.split(';');
     if (given.isEmpty() && !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
-        platforms += "wayland";
+        platforms += kWayland;
+    }
+    // A bundle may lack the plug-in for a session's own platform, which has X11 as well as a rule.
+    if (platforms.first().startsWith(kWayland) && !platforms.contains(kX11)) {
+        platforms += kX11;
     }
     if (qEnvironmentVariableIsEmpty("DISPLAY")) {
         RemoveIf(platforms, IsX11);

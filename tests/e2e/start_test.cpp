@@ -97,6 +97,7 @@ TEST(Start, InSessionsOfManyKinds) {
         {"display by IPv6", true, With("[::1]" + display)},
         {"no display", false, With("")},
         {"nobody's display", false, With(":4242", "QT_QPA_PLATFORM", "xcb")},
+        {"Wayland without its plug-in", true, With(display, "QT_QPA_PLATFORM", "wayland")},
         {"exit while Qt starts", false, With(display, "QT_QPA_GENERIC_PLUGINS", "spy:exit")},
         {"streams 0 and 1 closed", true, With(display), {0, 1}},
         {"streams 1 and 2 closed", false, With(display), {1, 2}},
