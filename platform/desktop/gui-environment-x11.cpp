@@ -68,10 +68,11 @@ bool HasSessionBus() {
            QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus");
 }
 
-// The size of windows, in pixels, follows the resolution; that of text does in any case. Nothing is
-// drawn at odd scales where the resolution is about the usual 96.
+// The size of windows, in pixels, follows the resolution, the display's or what the user tells Qt;
+// that of text does in any case. Nothing is drawn at odd scales where it is about the usual 96.
 void FollowResolution(double resolution) {
-    if (resolution > 1.1 * 96) {
+    const int wanted = qEnvironmentVariableIntValue("QT_FONT_DPI");
+    if ((wanted > 0 ? wanted : resolution) > 1.1 * 96) {
         QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
         QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
             Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);

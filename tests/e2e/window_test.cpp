@@ -108,6 +108,7 @@ TEST(Window, NothingThatHappensToItStopsTheRun) {
 }
 
 TEST(Window, ShowsTheUpgradeAndNothingElse) {
+    constexpr int kWanted = 168;  // by the user, whatever the display says
     const std::string start = "Quillmere Drive is initializing...";
     const std::string end = "Quillmere Drive is ready.";
     // Two of three entries, the last one, and the worker; the end of the run.
@@ -133,6 +134,7 @@ TEST(Window, ShowsTheUpgradeAndNothingElse) {
         {"C", good, start, upgrade, 96, dark},
         {"C", good, start, upgrade, 144},
         {"C", good, start, upgrade, 192},
+        {"C", good, start, upgrade, kWanted},
         {"de_AT.UTF-8", bad, "Quillmere Drive wird initialisiert ...", ""},
         {"ja_JP.UTF-8", bad, "Quillmere Drive は初期化中です。", ""},
         {"pt_PT.UTF-8", bad, "Quillmere Drive a iniciar...", ""},
@@ -144,7 +146,9 @@ TEST(Window, ShowsTheUpgradeAndNothingElse) {
     for (const auto& row : cases) {
         SCOPED_TRACE(row.locale + row.label);
         World world;
-        desktops.try_emplace(row.resolution, row.resolution).first->second.Show(world);
+        const int resolution = row.resolution == kWanted ? 96 : row.resolution;
+        desktops.try_emplace(resolution, resolution).first->second.Show(world);
+        world.environment.insert("QT_FONT_DPI", row.resolution == kWanted ? QString::number(kWanted) : "");
         Spy(world);
         world.environment.insert("LC_ALL", row.locale);
         world.environment.insert("XDG_CURRENT_DESKTOP", "KDE");
