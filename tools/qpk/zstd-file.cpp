@@ -1,6 +1,7 @@
 // A file compressed by zstd.
 #include "tools/qpk/zstd-file.h"
 
+#include <QFileInfo>
 #include <QThread>
 #include <algorithm>
 
@@ -10,6 +11,11 @@ ZstdFile::ZstdFile(const std::string& path, int level)
     : file_(QString::fromStdString(path)),
       context_(ZSTD_createCCtx()),
       buffer_(ZSTD_CStreamOutSize()) {
+    // A device would be replaced.
+    const QFileInfo former(file_.fileName());
+    if (former.exists() && !former.isFile()) {
+        Fail("is no regular file");
+    }
     if (!file_.open(QIODevice::WriteOnly)) {
         Fail(file_.errorString().toStdString());
     }
@@ -37,11 +43,18 @@ void ZstdFile::Compress(const void* data, std::size_t size, ZSTD_EndDirective di
         if (ZSTD_isError(left) != 0) {
             Fail(ZSTD_getErrorName(left));
         }
-        const auto produced = static_cast<qint64>(output.pos);
-        if (file_.write(buffer_.data(), produced) != produced) {
+        WriteOut(static_cast<qint64>(output.pos));
+        done = directive == ZSTD_e_end ? left == 0 : input.pos == input.size;
+    }
+}
+
+// On a disk that becomes full the first write does less than it should, and the next tells why.
+void ZstdFile::WriteOut(qint64 size) {
+    for (qint64 at = 0, written = 0; at < size; at += written) {
+        written = file_.write(buffer_.data() + at, size - at);
+        if (written < 0) {
             Fail(file_.errorString().toStdString());
         }
-        done = directive == ZSTD_e_end ? left == 0 : input.pos == input.size;
     }
 }
 

@@ -11,8 +11,8 @@
 
 // Writes one zstd frame with a checksum of its content, which libarchive's own filter does not
 // write: damage in data that do not shrink would go unseen. The file appears under its name with
-// Commit, whole; until then a former one stays. The bytes are the same for any number of
-// processors. All operations throw Failure.
+// Commit, whole; until then a former one stays; what is no regular file is refused. The bytes are
+// the same for any number of processors. All operations throw Failure.
 class ZstdFile {
   public:
     ZstdFile(const std::string& path, int level);
@@ -33,6 +33,7 @@ class ZstdFile {
     };
 
     void Compress(const void* data, std::size_t size, ZSTD_EndDirective directive);
+    void WriteOut(qint64 size);
     [[noreturn]] void Fail(const std::string& why) const;
 
     QSaveFile file_;
