@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include <QCoreApplication>
+#include <QDir>
 
 #include "unique-fd.h"
 
@@ -17,7 +18,9 @@ Desktop::Desktop(int resolution) {
                            QString::number(resolution)});
     EXPECT_TRUE(WaitFor([&] { return server_.canReadLine() || server_.waitForReadyRead(100); }));
     display_ = ":" + server_.readLine().trimmed();
-    manager_.start("env", {"DISPLAY=" + display_, "openbox", "--startup", "echo ready"});
+    // Its keys are the usual ones, whatever this user has configured.
+    manager_.start("env", {"DISPLAY=" + display_, "HOME=" + QDir::tempPath(), "XDG_CONFIG_HOME=", "openbox",
+                           "--startup", "echo ready"});
     EXPECT_TRUE(manager_.waitForReadyRead());
 }
 
