@@ -83,10 +83,15 @@ leave_display() {
   [ -z "${display_pids:-}" ] || kill $display_pids 2>/dev/null || true
 }
 
+# find_window PID: sets `window` to the visible window of the process. A search fails when another window goes meanwhile.
+find_window() {
+  window=$(xdotool search --onlyvisible --pid "$1" | tail -n 1)
+  [ -n "$window" ]
+}
+
 # picture_of PID FILE: the visible window of the process, with its frame.
 picture_of() {
-  wait_for 20 xdotool search --onlyvisible --pid "$1" || return 1
   local window
-  window=$(xdotool search --onlyvisible --pid "$1" | tail -n 1)
+  wait_for 20 find_window "$1" || return 1
   import -window "$window" -frame "$2"
 }
