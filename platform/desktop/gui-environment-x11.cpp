@@ -51,7 +51,7 @@ Platforms WantedPlatforms() {
     if (given.isEmpty() && !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
         platforms += kWayland;
     }
-    // A bundle may lack the plug-in for a session's own platform, which has X11 as well as a rule.
+    // A bundle may have no plug-in for Wayland, and such a session has X11 as well as a rule.
     if (platforms.first().startsWith(kWayland) && !platforms.contains(kX11)) {
         platforms += kX11;
     }

@@ -5,8 +5,8 @@
 // become standard output. To be called before anything else.
 void OpenStandardStreams();
 
-// Takes the owner's rights out of the umask (umask(2)): of a copy that its owner may not enter or
-// start, nothing is left once the old one is removed. To be called before there is a second thread.
+// Takes the owner's rights out of the umask (umask(2)): an upgrade would replace a working copy by
+// one that its owner may not enter or start. To be called before there is a second thread.
 void KeepOwnersRights();
 
 // Makes a relative $HOME absolute: the client is started in another directory. To be called before

@@ -72,8 +72,7 @@ TEST_F(QpkTest, PackagesAreReproducibleAndInstall) {
               "Contents/R\na\na/X\na/b\na/b/link\na/b/x\nnoise\nContents/Resources/INFO\n");
     EXPECT_EQ(Shell("$Q check 1").exit_code, 0);
     EXPECT_NE(Shell("$Q make d -o 3 --build 7 && cmp 1 3").exit_code, 0) << "the time is not used";
-    const std::string full = "trap '' XFSZ; ulimit -f 10; ";
-    EXPECT_TRUE(Contains(Shell(full + "$Q make d -o 4 --build 7").err, "4: File too large"));
+    EXPECT_TRUE(Contains(Shell("trap '' XFSZ; ulimit -f 10; $Q make d -o 4 --build 7").err, "4: File too large"));
     EXPECT_TRUE(Contains(Shell("mkfifo 4; $Q make d -o 4 --build 7").err, "4: is no regular file"));
     // Noise is stored as it is, and nothing but the checksum tells that it has changed.
     Shell("printf '\\x55\\xaa\\x55' | dd of=1 bs=1 seek=200000 conv=notrunc");

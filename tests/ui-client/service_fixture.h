@@ -36,9 +36,7 @@ class ServiceTest : public testing::Test {
     ~ServiceTest() override { Logger::Destroy(); }
 
     std::string LogPath() const { return home / "log"; }
-    int LogLines(const std::string& part) const {
-        return QString::fromStdString(ReadFile(LogPath())).count(part.c_str());
-    }
+    int LogLines(const QString& part) const { return QString::fromStdString(ReadFile(LogPath())).count(part); }
 
     const TempDir home;
 };
