@@ -80,7 +80,7 @@ const char* TakeOutput() {
     return std::getenv("BENCH_PROBE");
 }
 
-const char* const output = TakeOutput();
+const char* output = TakeOutput();
 
 struct Report {
     ~Report() {
@@ -117,6 +117,15 @@ int __libc_start_main(int (*main)(int, char**, char**), int argc, char** argv, v
     real_main = main;
     return Real(__libc_start_main, "__libc_start_main")(Main, argc, argv, init, fini, loader,
                                                         stack);
+}
+
+// The child does the work, and reports.
+pid_t fork() noexcept {
+    const pid_t child = Real(fork, "fork")();
+    if (child > 0) {
+        output = nullptr;
+    }
+    return child;
 }
 
 int posix_spawn(pid_t* child, const char* path, const posix_spawn_file_actions_t* actions,

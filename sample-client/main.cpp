@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
-#include <QLibraryInfo>
 #include <QLockFile>
 #include <QSaveFile>
 #include <QSettings>
@@ -18,9 +17,9 @@
 #include <QVBoxLayout>
 #include <QWidget>
 #include <cstdio>
-#include <memory>
 
 #include "platform/desktop/gui-environment.h"
+#include "platform/desktop/platform-plugins.h"
 
 namespace {
 
@@ -88,12 +87,9 @@ void FillWindow(QWidget& window) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // Syncing needs no window either.
-    auto environment =
-        std::make_unique<GuiEnvironment>(QLibraryInfo::location(QLibraryInfo::PluginsPath), argv);
+    GuiEnvironment environment(StartMode::kFull, PluginsOfQt());
     QApplication application(argc, argv);
-    environment->Restore();
-    environment.reset();
+    environment.Restore();
     QDir().mkpath(UserDirectory());
     QLockFile only_one(UserDirectory() + "/ui.lock");
     only_one.setStaleLockTime(0);

@@ -6,7 +6,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # Debian's packages for building, and those for testing and taking pictures.
 build_packages=(
   g++ cmake ninja-build pkg-config git ca-certificates
-  qtbase5-dev qttools5-dev qttools5-dev-tools libarchive-dev libicu-dev libzstd-dev libxcb1-dev
+  qtbase5-dev qttools5-dev qttools5-dev-tools libarchive-dev libicu-dev libzstd-dev
   libfontconfig-dev
 )
 packages=(

@@ -1,12 +1,6 @@
-// Nothing to prepare: a session has a display, and the bundle its plug-ins.
+// A session has a display, and the bundle its plug-ins.
 #include "platform/desktop/gui-environment.h"
 
-struct GuiEnvironment::Parts {};
-
-GuiEnvironment::GuiEnvironment(const QString&, char**) {}
-
-GuiEnvironment::~GuiEnvironment() = default;
+GuiEnvironment::GuiEnvironment(StartMode, const QString&) {}
 
 void GuiEnvironment::Restore() {}
-
-void GuiEnvironment::GiveDisplayUp() {}

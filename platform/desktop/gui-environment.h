@@ -1,39 +1,30 @@
-// What the application object needs to come up on any machine and in any session.
+// What the application object needs to come up in any session.
 #pragma once
 
 #include <QString>
-#include <memory>
 
-// Stands around the life of the application object. Qt ends the process when no platform plug-in
-// comes up, breaks when its display goes, and waits without a limit for what a session does not
-// answer; the launcher has work to do without a window. So:
-//
-// - Qt's list of platforms ends in "offscreen" and leaves out an X display that does not take this
-//   user or does not answer within a few seconds, or any where no thread can be had to ask it.
-// - Platform plug-ins are found in the bundle of the executable or in Qt's own place where
-//   `library_path` has none.
-// - What then still ends the process, crashes or hangs leads to a new start of the program, without
-//   the session's bus and manager or without a display. The main thread is guarded by RunGuard.
-// - Windows have the size that the display's resolution asks for.
-//
-// Works through environment variables, which are put back by Restore(), so that the client does not
-// inherit them. Main thread, before any other thread. Does nothing on Apple systems.
+#include "platform/desktop/font-loader.h"
+#include "platform/desktop/scoped-environment.h"
+#include "platform/process/supervisor.h"
+
+// Exists around the construction of the application object. Changes environment variables so that
+// Qt tries the right platforms (see PlatformsToTry), finds their plug-ins in `library_path`, in the
+// bundle of the executable, or in Qt's own directory, and does without what `mode` leaves out.
+// Windows get the size that the display's resolution asks for. Does nothing on Apple systems. Main
+// thread, before any other thread.
 class GuiEnvironment {
   public:
-    // `library_path` is the directory that was given to QCoreApplication::setLibraryPaths, `argv`
-    // what main was given.
-    GuiEnvironment(const QString& library_path, char** argv);
-    ~GuiEnvironment();
-    GuiEnvironment(const GuiEnvironment&) = delete;
-    GuiEnvironment& operator=(const GuiEnvironment&) = delete;
+    GuiEnvironment(StartMode mode, const QString& library_path);
 
-    // To be called when the application object is built. Starts accessibility, too.
+    // Restores the environment, which the client inherits. To be called after the construction of
+    // the application object. Connects to what the first window would otherwise connect to during
+    // the run: the accessibility bus, and OpenGL.
     void Restore();
 
-    // Starts the program over without a display if it has one; else returns.
-    void GiveDisplayUp();
-
   private:
-    struct Parts;
-    std::unique_ptr<Parts> parts_;
+    void LeaveOutDisplay();
+    void UseDisplay(const QString& library_path);
+
+    ScopedEnvironment environment_;
+    FontLoader fonts_;
 };

@@ -60,6 +60,9 @@ FileLock::Result FileLock::Wait() {
 }
 
 FileLock::Result FileLock::Lock(int operation) {
+    if (file_.valid()) {
+        return Result::kTaken;
+    }
     for (;;) {
         // Nothing that lies there can hold this call up, or lead to another file.
         UniqueFd file(open(path_.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC,

@@ -1,4 +1,4 @@
-// Xvfb, openbox and xdotool; the gate and the spy.
+// Xvfb, openbox and xdotool; slow packages and the spy.
 #include "e2e/desktop.h"
 
 #include <fcntl.h>
@@ -42,8 +42,8 @@ QString Desktop::Do(const QStringList& words) const {
     return process.readAllStandardOutput().trimmed();
 }
 
-QString Desktop::Window(const QProcess& owner) const {
-    return Do({"search", "--onlyvisible", "--pid", QString::number(owner.processId())});
+QString Desktop::Window(const QProcess& start) const {
+    return Do({"search", "--onlyvisible", "--pid", QString::number(LauncherOf(start))});
 }
 
 void Desktop::KillWindowManager() {
@@ -51,15 +51,22 @@ void Desktop::KillWindowManager() {
     manager_.waitForFinished();
 }
 
-void CloseGate(const World& world) {
-    fs::create_directories(world.User());
-    EXPECT_EQ(mkfifo((world.User() + "/ui.pid").c_str(), S_IRUSR | S_IWUSR), 0);
+SlowPackage::SlowPackage(const World& world)
+    : path_(world.Bundle() + "/Contents/Resources/package/quillmere.qpk"), package_(ReadFile(path_)) {
+    fs::remove(path_);
+    EXPECT_EQ(mkfifo(path_.c_str(), S_IRUSR | S_IWUSR), 0);
 }
 
-void OpenGate(const World& world) {
-    const std::string gate = world.User() + "/ui.pid";
-    EXPECT_TRUE(WaitFor([&] { return UniqueFd(open(gate.c_str(), O_WRONLY | O_NONBLOCK)).valid(); }));
-    fs::remove(gate);
+// Whoever waits reads the FIFO; whoever comes later, the file.
+void SlowPackage::Arrive() const {
+    UniqueFd fifo;
+    EXPECT_TRUE(WaitFor([&] {
+        fifo.reset(open(path_.c_str(), O_WRONLY | O_NONBLOCK));
+        return fifo.valid();
+    })) << "nobody reads the package";
+    WriteFile(path_ + ".new", package_);
+    fs::rename(path_ + ".new", path_);
+    EXPECT_EQ(write(fifo.get(), package_.data(), package_.size()), static_cast<ssize_t>(package_.size()));
 }
 
 void Spy(World& world, const char* how) {

@@ -13,8 +13,8 @@ class Desktop {
     QString Display() const { return display_; }
     // Has xdotool do something, to its end. Result: what it wrote.
     QString Do(const QStringList& words) const;
-    // The visible window of a process, as xdotool's number; empty without one.
-    QString Window(const QProcess& owner) const;
+    // The visible window of a start, as xdotool's number; empty without one.
+    QString Window(const QProcess& start) const;
     void SignalServer(int number) { kill(static_cast<pid_t>(server_.processId()), number); }
     void KillWindowManager();
 
@@ -24,9 +24,18 @@ class Desktop {
     QString display_;
 };
 
-// Makes the pid file a FIFO (fifo(7)): an upgrade shows its window, then waits for the gate to open.
-void CloseGate(const World& world);
-void OpenGate(const World& world);
+// A package that is slow to arrive: a FIFO (fifo(7)). An upgrade shows its window, then waits for it.
+class SlowPackage {
+  public:
+    // In the place of the package that `world` offers.
+    explicit SlowPackage(const World& world);
+    // Delivers the package.
+    void Arrive() const;
+
+  private:
+    std::string path_;
+    std::string package_;
+};
 
 // Has the launcher tell what its window does; `how` is for the plug-in in spy.cpp.
 void Spy(World& world, const char* how = "spy");

@@ -173,6 +173,18 @@ void Kill(pid_t pid) {
     WaitFor([pid] { return !IsAlive(pid); });
 }
 
+pid_t LauncherOf(const QProcess& start) {
+    const std::string pid = std::to_string(start.processId());
+    return std::atoi(ReadFile("/proc/" + pid + "/task/" + pid + "/children").c_str());
+}
+
+void KillStart(QProcess& start) {
+    const pid_t launcher = LauncherOf(start);
+    start.kill();
+    start.waitForFinished();
+    if (launcher > 1) { Kill(launcher); }
+}
+
 const uid_t kLoner = 100000 + static_cast<uid_t>(getpid());
 
 void BecomeLoner() {

@@ -83,6 +83,10 @@ bool Contains(const std::string& text, const std::string& part);
 // Polls `condition` until it holds. Result: false when it does not within `seconds`.
 bool WaitFor(const std::function<bool()>& condition, int seconds = 10);
 bool IsAlive(pid_t pid);
+// The process of a start that does the work: the child of the supervisor. 0 if there is none.
+pid_t LauncherOf(const QProcess& start);
+// Kills both processes of a start.
+void KillStart(QProcess& start);
 // Kills a process and waits until it is gone.
 void Kill(pid_t pid);
 

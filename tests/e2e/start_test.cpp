@@ -147,16 +147,17 @@ TEST(Start, OneAtATime) {
     world.LogEverything();
     world.Have(1);
     world.Offer(2);
-    CloseGate(world);
+    const auto as_it_is = fs::copy_options::recursive | fs::copy_options::copy_symlinks;
+    fs::copy(world.Bundle(), world.dir / "Other.app", as_it_is);
+    const SlowPackage package(world);
     const auto is_logged = [&world](const char* line, int times) {
         return WaitFor([&] { return QString::fromStdString(world.Log()).count(line) == times; });
     };
     const auto killed = world.Start();
-    ASSERT_TRUE(is_logged("local appdata exist", 1));
-    killed->kill();
-    killed->waitForFinished();
+    ASSERT_TRUE(is_logged(": extract package: ", 1));
+    KillStart(*killed);
     const auto first = world.Start();
-    ASSERT_TRUE(is_logged("local appdata exist", 2));
+    ASSERT_TRUE(is_logged(": extract package: ", 2));
 
     // Again from here, from another session, and with another user's lock in the way.
     EXPECT_TRUE(EndedWell(world.Launch()));
@@ -174,14 +175,14 @@ TEST(Start, OneAtATime) {
     EXPECT_TRUE(is_logged("app has already launched, return", 3));
 
     // Another bundle is another instance, and waits.
-    const auto as_it_is = fs::copy_options::recursive | fs::copy_options::copy_symlinks;
-    fs::copy(world.Bundle(), world.dir / "Other.app", as_it_is);
     world.program = world.dir / "Other.app/Contents/MacOS/launcher";
     const auto other = world.Start();
-    const std::string waits = "-> FLOCK  ADVISORY  WRITE " + std::to_string(other->processId()) + " ";  // proc(5)
-    EXPECT_TRUE(WaitFor([&] { return Contains(ReadFile("/proc/locks"), waits); }));
+    EXPECT_TRUE(WaitFor([&] {
+        const std::string waits = "-> FLOCK  ADVISORY  WRITE " + std::to_string(LauncherOf(*other)) + " ";  // proc(5)
+        return Contains(ReadFile("/proc/locks"), waits);
+    }));
     EXPECT_TRUE(is_logged("waiting for '", 1));
-    OpenGate(world);
+    package.Arrive();
     EXPECT_TRUE(Succeeded(world.Finish(*first), world, 2));
     EXPECT_TRUE(Succeeded(world.Finish(*other), world, 2));
     world.program.clear();

@@ -5,7 +5,7 @@
 #include <climits>
 
 #include "log.h"
-#include "platform/desktop/run-guard.h"
+#include "platform/process/supervisor.h"
 #include "ui-client/launcher/mac/mac-service.h"
 #include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/launcher/processing-progress-dialog.h"
@@ -98,10 +98,7 @@ void Worker::HandleServicce() {
     m_service->PostUpgrade();
     Logger::LogMsg(LOG_LINE(DEBUG, "done\n"));
     emit sigServiceDone();
-    if (RunGuard::IsMainThreadLost()) {
-        Logger::LogMsg(LOG_LINE(WARNING, "the display was lost during the run\n"));
-    }
-    RunGuard::RunIsOver();
+    ReportStage(Stage::kOpened);
 }
 
 Launcher::Launcher() : QObject(nullptr) {

@@ -3,25 +3,25 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFont>
-#include <QSettings>
 #include <QStringList>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTranslator>
 #include <clocale>
-#include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <string>
 
 #include "log.h"
 #include "platform/desktop/gui-environment.h"
-#include "platform/desktop/process-start.h"
 #include "platform/desktop/qtsingleapplication.h"
-#include "platform/desktop/run-guard.h"
-#include "platform/desktop/utf8-names.h"
 #include "platform/files/file-lock.h"
+#include "platform/process/process-setup.h"
+#include "platform/process/supervisor.h"
+#include "platform/process/utf8-names.h"
 #include "ui-client/launcher/launcher.h"
+#include "ui-client/launcher/mac/mac-service.h"
 #include "ui-client/launcher/processing-progress-dialog.h"
 #include "ui-client/launcher/qt-text.h"
 #include "ui-client/launcher/quillmere-service.h"
@@ -37,11 +37,18 @@ namespace {
 constexpr int kRotations = 50;
 const ustring kLogComponent("launcher_debug");
 
+// What sets an attempt apart, by its StartMode.
+constexpr const char* kDifferences[] = {
+    "leaves out nothing", "leaves out the session's bus and manager", "has no display",
+    "has no display and puts the old copy back if the new one is incomplete",
+    "puts the old copy back if the new one is incomplete and opens the client without an upgrade"};
+
 // The bundle's plug-ins replace Qt's own search. Result: the path that was set.
 QString SetLibraryPath(const char* program) {
     QString path = QDir::cleanPath(QString::fromUtf8(program) + "/../../Frameworks/plugins");
     QCoreApplication::setLibraryPaths(QStringList(path));
     std::printf("lib path = '%s'\n", path.toUtf8().constData());
+    std::fflush(stdout);
     return path;
 }
 
@@ -83,72 +90,108 @@ void UseFontOfWindow() {
     QApplication::setFont(font);
 }
 
-// An instance is known by its bundle; this lock is one for all bundles, in the directory that they
-// would change. It also finds the instance that had to do without the application object's lock.
-// Result: false when the same bundle is at work there. Waits for another one.
-bool EnterInstallDirectory(FileLock& lock, const std::string& program) {
-    if (lock.Take() != FileLock::Result::kHeld) {
-        return true;
+// One line for each attempt after the first.
+void LogCause(const Attempt& attempt) {
+    if (!attempt.cause.empty()) {
+        Logger::LogMsg(LOG_LINE(WARNING, "the previous attempt %s; this one %s\n"),
+                       attempt.cause.c_str(), kDifferences[static_cast<int>(attempt.mode)]);
     }
-    const std::string holder = lock.HoldersNote();
-    if (holder == program) {
-        return false;
+}
+
+std::string Program() {
+    return QCoreApplication::applicationFilePath().toStdString();
+}
+
+// The lock on the user's directory, which all bundles share.
+std::string InstallLockPath() {
+    return (Service::GetUserQuillmereInstallPath() + "/launcher.lock").c_str();
+}
+
+// Takes the lock if it is free. It also finds the instance of this bundle that could not have the
+// application object's lock.
+bool IsHeldByThisBundle(FileLock& lock) {
+    return lock.Take() == FileLock::Result::kHeld && lock.HoldersNote() == Program();
+}
+
+void WaitForOtherBundle(FileLock& lock) {
+    if (lock.Take() == FileLock::Result::kHeld) {
+        Logger::LogMsg(LOG_LINE(INFO, "waiting for '%s'\n"), lock.HoldersNote().c_str());
+        lock.Wait();
     }
-    Logger::LogMsg(LOG_LINE(INFO, "waiting for '%s'\n"), holder.c_str());
-    lock.Wait();
-    return true;
+}
+
+int EndAsSecondInstance() {
+    Logger::LogMsg(LOG_LINE(DEBUG, "app has already launched, return\n"));
+    return EXIT_SUCCESS;
 }
 
 // The run, from the first string to the client. Result: that of the event loop.
-int Run(GuiEnvironment& environment) {
+int Run(StartMode mode, FileLock& lock) {
     QTranslator translator(nullptr);
     const QString resource = ":/" + OrvaLocale::getDefaultLanguage() + ".qm";
     SetUpLanguage(translator, resource);
     StrTable::InitStrTable();
     UseLightColours();
     UseFontOfWindow();
-    Launcher* const launcher = new Launcher;
-    launcher->Run();
-    if (launcher->HasThread()) {
-        // Its objects of static storage duration must be older than the guard, and no other class
-        // that the run uses has any.
-        const QSettings settings(QString(), QSettings::IniFormat);
-        RunGuard::RunBegins();
-    } else {
-        environment.GiveDisplayUp();
+    Launcher launcher;
+    ReportStage(Stage::kReady);
+    WaitForOtherBundle(lock);
+    if (mode >= StartMode::kAfterRepair) {
+        Service::PutBackupBack();
     }
-    launcher->Start();
-    const int result = QApplication::exec();
-    delete launcher;
-    return result;
+    launcher.Run();
+    launcher.Start();
+    return QApplication::exec();
+}
+
+int RunWithWindow(const Attempt& attempt, int argc, char** argv, const QString& library_path) {
+    GuiEnvironment environment(attempt.mode, library_path);
+    qAddPreRoutine([] { ReportStage(Stage::kConnected); });
+    QtSingleApplication application(argc, argv, true);
+    environment.Restore();
+    UseUtf8FileNames();
+    SetUpLog();
+    LogCause(attempt);
+    FileLock lock(InstallLockPath(), Program());
+    if (application.isRunning() || IsHeldByThisBundle(lock)) {
+        return EndAsSecondInstance();
+    }
+    StayUntilTheRunIsOver(application);
+    return Run(attempt.mode, lock);
+}
+
+// The last attempt depends on nothing that may have ended the others: no window, no package.
+int OpenOnly(const Attempt& attempt, int argc, char** argv) {
+    ReportStage(Stage::kReady);
+    QCoreApplication application(argc, argv);
+    UseUtf8FileNames();
+    SetUpLog();
+    LogCause(attempt);
+    FileLock lock(InstallLockPath(), Program());
+    if (!IsHeldByThisBundle(lock)) {
+        WaitForOtherBundle(lock);
+        Service::PutBackupBack();
+        MacService().PostUpgrade();
+    }
+    ReportStage(Stage::kOpened);
+    return EXIT_SUCCESS;
+}
+
+int Launch(const Attempt& attempt, int argc, char** argv) {
+    setlocale(LC_ALL, "");
+    qInitResources_texts();
+    UseUtf8FileNames();
+    const QString library_path = SetLibraryPath(argv[0]);
+    if (attempt.mode >= StartMode::kWithoutDisplay) {
+        argc = 1;  // an argument can ask Qt for a platform
+    }
+    return attempt.mode == StartMode::kOpenOnly ? OpenOnly(attempt, argc, argv)
+                                                : RunWithWindow(attempt, argc, argv, library_path);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    OpenStandardStreams();
-    KeepOwnersRights();
-    MakeHomeAbsolute();
-    setlocale(LC_ALL, "");
-    // The terminal that the launcher was started from may be closed in the middle of a run.
-    std::signal(SIGHUP, SIG_IGN);
-    // Writing to a pipe that nobody reads any more fails with EPIPE, and the run goes on.
-    std::signal(SIGPIPE, SIG_IGN);
-    // A write beyond the limit of a file's size fails with EFBIG, and the old copy is put back.
-    std::signal(SIGXFSZ, SIG_IGN);
-    qInitResources_texts();
-    UseUtf8FileNames();
-    GuiEnvironment environment(SetLibraryPath(argv[0]), argv);
-    QtSingleApplication application(argc, argv, true);
-    environment.Restore();
-    UseUtf8FileNames();
-    SetUpLog();
-    const std::string program = QCoreApplication::applicationFilePath().toStdString();
-    FileLock lock((Service::GetUserQuillmereInstallPath() + "/launcher.lock").c_str(), program);
-    if (application.isRunning() || !EnterInstallDirectory(lock, program)) {
-        Logger::LogMsg(LOG_LINE(DEBUG, "app has already launched, return\n"));
-        return 0;
-    }
-    StayUntilTheRunIsOver(application);
-    return Run(environment);
+    PrepareProcess();
+    return Supervise(Launch, argc, argv);
 }

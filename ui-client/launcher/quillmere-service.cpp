@@ -5,9 +5,11 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QSettings>
 #include <cerrno>
 #include <cstdio>
+#include <tuple>
 
 #include "file/file-op.h"
 #include "log.h"
@@ -142,16 +144,69 @@ int BackUp(const ustring& app, ustring& backup, int& index) {
     return -1;
 }
 
-// Takes the new copy away and puts the old one back. The version goes first: should this end half
-// way, what is left of the new copy must not count as current.
+// Removes the version first: a copy that is removed only in part must not count as a whole one.
+void RemoveCopy(const ustring& copy) {
+    FSRemove(copy + kInfo, false);
+    FSRemove(copy, false);
+}
+
 void RollBack(const ustring& app, const ustring& backup) {
-    FSRemove(app + kInfo, false);
-    FSRemove(app, false);
+    RemoveCopy(app);
     FSRename(backup, app, false);
     FlushTree(FSParentPath(app).c_str());
 }
 
+enum class Version { kPresent, kMissing, kUnknown };
+
+// Whether a copy has a version. A version that cannot be read is neither present nor missing.
+Version VersionOf(const ustring& copy) {
+    const ustring path = copy + kInfo;
+    if (IsAbsent(path)) {
+        return Version::kMissing;
+    }
+    QFile file(ToQString(path));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return Version::kUnknown;
+    }
+    const bool has_key = file.readAll().contains("build_version=");
+    if (has_key) {
+        return Version::kPresent;
+    }
+    return file.error() == QFile::NoError ? Version::kMissing : Version::kUnknown;
+}
+
+// rename(2) changes a directory's time of status change.
+bool IsNewer(const struct stat& one, const struct stat& other) {
+    return std::tie(one.st_ctim.tv_sec, one.st_ctim.tv_nsec) >
+           std::tie(other.st_ctim.tv_sec, other.st_ctim.tv_nsec);
+}
+
+// The backup with a version that was moved last; empty without one.
+ustring NewestBackup(const ustring& app) {
+    ustring newest;
+    struct stat newest_status = {};
+    for (int index = 0; index < kBackups; ++index) {
+        const ustring backup = GetAppBackupDir(app, index);
+        struct stat status;
+        if (VersionOf(backup) == Version::kPresent && lstat(backup.c_str(), &status) == 0 &&
+            IsNewer(status, newest_status)) {
+            newest = backup;
+            newest_status = status;
+        }
+    }
+    return newest;
+}
+
 }  // namespace
+
+void Service::PutBackupBack() {
+    const ustring app = GetUserQuillmereAppInstallPath();
+    const ustring backup = VersionOf(app) == Version::kMissing ? NewestBackup(app) : ustring();
+    if (!backup.empty()) {
+        Logger::LogMsg(LOG_LINE(NOTE, "putting '%s' back\n"), backup.c_str());
+        RollBack(app, backup);
+    }
+}
 
 int Service::PrepareUserEnv() {
     const ustring app = user_app_path;
@@ -164,7 +219,7 @@ int Service::PrepareUserEnv() {
     if (ExtractPackage() == 0) {
         Logger::LogMsg(LOG_LINE(INFO, "user installation is ready, removing backup app\n"));
         for (int k = 0; k <= index; ++k) {
-            FSRemove(GetAppBackupDir(app, k), false);
+            RemoveCopy(GetAppBackupDir(app, k));
         }
         return 0;
     }

@@ -58,6 +58,11 @@ class Service {
     // power cut, APP or a backup is whole, and a torn APP has no version.
     virtual int PrepareUserEnv();
 
+    // Repairs the copy after an attempt that died: if APP has no version and a backup has one,
+    // removes APP and renames the newest such backup to it, on the disk at return. Does nothing if
+    // the version of APP cannot be read.
+    static void PutBackupBack();
+
     // Copies a file or a whole tree, contents only; links are copied as what they lead to. A
     // directory that cannot be opened gives an empty one and a warning. Result: 0; -1 at the first
     // entry that fails, with what was copied until then left in place.

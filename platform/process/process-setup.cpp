@@ -1,7 +1,8 @@
-// What a process may rely on from its first line on.
-#include "platform/desktop/process-start.h"
+// What a process relies on from its first line on.
+#include "platform/process/process-setup.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <stdlib.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -9,8 +10,10 @@
 #include <filesystem>
 #include <system_error>
 
+namespace {
+
 void OpenStandardStreams() {
-    // The lowest free number is given (open(2)).
+    // open(2) returns the lowest free number.
     int descriptor = STDIN_FILENO;
     while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
         descriptor = open("/dev/null", O_RDWR);
@@ -35,4 +38,20 @@ void MakeHomeAbsolute() {
     if (!failure) {
         setenv("HOME", absolute.c_str(), 1);
     }
+}
+
+void SetSignals() {
+    for (const int ignored : {SIGHUP, SIGPIPE, SIGXFSZ}) {
+        signal(ignored, SIG_IGN);
+    }
+    signal(SIGCHLD, SIG_DFL);
+}
+
+}  // namespace
+
+void PrepareProcess() {
+    OpenStandardStreams();
+    KeepOwnersRights();
+    MakeHomeAbsolute();
+    SetSignals();
 }

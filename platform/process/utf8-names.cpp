@@ -1,11 +1,12 @@
 // File names in UTF-8.
-#include "platform/desktop/utf8-names.h"
+#include "platform/process/utf8-names.h"
 
 #include <langinfo.h>
 
-#include <QTextCodec>
 #include <clocale>
 #include <cstring>
+
+#include "platform/desktop/qt-version.h"
 
 namespace {
 
@@ -22,5 +23,5 @@ void UseUtf8FileNames() {
             break;
         }
     }
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    UseUtf8Codec();
 }

@@ -1,0 +1,35 @@
+// What differs between Qt 5 and Qt 6.
+#pragma once
+
+#include <QGuiApplication>
+#include <QLibraryInfo>
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+
+#include <QTextCodec>
+
+inline QString QtPluginsDirectory() {
+    return QLibraryInfo::location(QLibraryInfo::PluginsPath);
+}
+
+inline void UseUtf8Codec() {
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}
+
+inline void EnableHighDpiScaling() {
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+}
+
+#else
+
+inline QString QtPluginsDirectory() {
+    return QLibraryInfo::path(QLibraryInfo::PluginsPath);
+}
+
+// Qt 6 always has both.
+inline void UseUtf8Codec() {}
+inline void EnableHighDpiScaling() {}
+
+#endif
