@@ -1,5 +1,5 @@
-// A run of the launcher in which its calls on certain files are seen, and may be answered otherwise
-// than by the system. By seccomp_unotify(2), which unlike ptrace(2) leaves the sanitizers alone.
+// A start of the launcher whose calls on certain files are seen, and may be answered otherwise than by
+// the system. It uses seccomp_unotify(2), which does not disturb the sanitizers as ptrace(2) does.
 #pragma once
 
 #include <fcntl.h>
@@ -26,8 +26,14 @@ struct FileCall {
     std::string path;  // its first path, or that of the file behind its descriptor
 };
 
-// What becomes of it; a negative errno value is the error to fail with.
-enum : int { kGoOn = 0, kKillBefore, kHalfOfTheWrite, kSuccessWithoutIt };
+// The answer to a call; a negative errno value is the error to fail with.
+enum : int {
+    kGoOn = 0,
+    kKillBoth,      // processes of the start, before the call
+    kKillLauncher,  // before the call; the supervisor goes on
+    kHalfOfTheWrite,
+    kSuccessWithoutIt
+};
 
 // The calls on files, each with the number of its argument that is a path; -1 for a descriptor.
 constexpr struct FileCallNumber {
@@ -57,6 +63,13 @@ inline int InstallFilter() {
     const sock_fprog program{static_cast<unsigned short>(code.size()), code.data()};
     prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
     return static_cast<int>(syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, SECCOMP_FILTER_FLAG_NEW_LISTENER, &program));
+}
+
+// The process of a thread (proc(5)).
+inline pid_t ProcessOf(pid_t thread) {
+    const std::string status = ReadFile("/proc/" + std::to_string(thread) + "/status");
+    const std::size_t line = status.find("\nTgid:");
+    return line == std::string::npos ? 0 : std::atoi(status.c_str() + line + 6);
 }
 
 // A descriptor of another process, as one of this one's.
@@ -97,25 +110,24 @@ inline ssize_t WriteHalf(pid_t process, const seccomp_data& data) {
     return write(file.get(), bytes.data(), bytes.size());
 }
 
-// Runs the launcher until it and what it started have ended, a minute at most, and asks `answer`
-// about its own calls on paths that begin with one of `places`. Result: its exit code; -1 if a
-// signal ended it, -2 if it cannot be supervised here.
-inline int RunSupervised(const World& world, const std::vector<std::string>& places,
-                         const std::function<int(const FileCall&)>& answer) {
+// Runs a start until its processes and what they started have ended, a minute at most, and asks `answer`
+// about their own calls on paths that begin with one of `places`. Result: the exit code of the
+// supervisor; -1 if a signal ended it, -2 if the calls cannot be seen here.
+inline int RunIntercepted(const World& world, const std::vector<std::string>& places,
+                          const std::function<int(const FileCall&)>& answer) {
     constexpr int kListener = 200;
-    prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0);  // of a client that the launcher leaves
-    const auto process = world.Start([] { dup2(InstallFilter(), kListener); });
-    const auto launcher = static_cast<pid_t>(process->processId());
-    const UniqueFd listener(Borrow(launcher, kListener));
+    prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0);  // of launchers and clients that outlive their parent
+    const auto supervisor = world.Start([] { dup2(InstallFilter(), kListener); });
+    const UniqueFd listener(Borrow(static_cast<pid_t>(supervisor->processId()), kListener));
     QElapsedTimer timer;
     timer.start();
     pollfd ready{listener.get(), POLLIN, 0};
-    while (process->state() != QProcess::NotRunning || (ready.revents & POLLHUP) == 0) {
+    while (supervisor->state() != QProcess::NotRunning || (ready.revents & POLLHUP) == 0) {
         seccomp_notif request{};
-        if (!listener.valid() || timer.hasExpired(60000)) { process->kill(); }
+        if (!listener.valid() || timer.hasExpired(60000)) { KillStart(*supervisor); }
         if (poll(&ready, 1, 10) <= 0 || (ready.revents & POLLIN) == 0) {
-            process->waitForFinished(0);
-            while (process->state() == QProcess::NotRunning && waitpid(-1, nullptr, WNOHANG) > 0) {}
+            supervisor->waitForFinished(0);
+            while (supervisor->state() == QProcess::NotRunning && waitpid(-1, nullptr, WNOHANG) > 0) {}
             continue;
         }
         if (ioctl(listener.get(), SECCOMP_IOCTL_NOTIF_RECV, &request) != 0) {
@@ -127,14 +139,17 @@ inline int RunSupervised(const World& world, const std::vector<std::string>& pla
                            std::any_of(places.begin(), places.end(),
                                        [&](const std::string& place) { return call.path.rfind(place, 0) == 0; });
         const int decision = asked ? answer(call) : kGoOn;
-        if (decision == kKillBefore) { process->kill(); }
+        if (decision == kKillBoth) { supervisor->kill(); }
+        if (decision == kKillBoth || decision == kKillLauncher) { kill(ProcessOf(caller), SIGKILL); }
         seccomp_notif_resp response{};
         response.id = request.id;
         response.error = std::min(decision, 0);
-        if (decision == kHalfOfTheWrite && call.what == kWrite) { response.val = WriteHalf(launcher, request.data); }
+        if (decision == kHalfOfTheWrite && call.what == kWrite) {
+            response.val = WriteHalf(ProcessOf(caller), request.data);
+        }
         const bool done = response.error != 0 || response.val != 0 || decision == kSuccessWithoutIt;
         response.flags = done ? 0 : SECCOMP_USER_NOTIF_FLAG_CONTINUE;
         ioctl(listener.get(), SECCOMP_IOCTL_NOTIF_SEND, &response);
     }
-    return !listener.valid() ? -2 : process->exitStatus() == QProcess::NormalExit ? process->exitCode() : -1;
+    return !listener.valid() ? -2 : supervisor->exitStatus() == QProcess::NormalExit ? supervisor->exitCode() : -1;
 }
