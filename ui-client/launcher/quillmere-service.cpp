@@ -10,6 +10,7 @@
 #include <cstdio>
 
 #include "file/file-op.h"
+#include "install-layout.h"
 #include "log.h"
 #include "platform/files/flush.h"
 #include "ui-client/launcher/extractor.h"
@@ -19,20 +20,23 @@
 
 namespace {
 
-constexpr int kBackups = 10;
-constexpr char kInfo[] = "/Contents/Resources/INFO";
 const ustring kLogComponent("service_debug");
 
+ustring Below(const ustring& directory, const char* path) {
+    return directory + "/" + path;
+}
+
 ustring GetAppBackupDir(const ustring& app, int index) {
+    const ustring first = app + layout::kBackupSuffix;
     if (index == 0) {
-        return app + "_tmp";
+        return first;
     }
     char postfix[8];
     if (std::snprintf(postfix, sizeof postfix, "%d", index) < 0) {
         Logger::LogMsg(LOG_LINE(ERROR, "snprintf failed (continuing without postfix)"));
-        return app + "_tmp";
+        return first;
     }
-    return app + "_tmp" + postfix;
+    return first + postfix;
 }
 
 void LoadKey(const QSettings& info, const char* key, ustring& field) {
@@ -81,23 +85,23 @@ ustring Service::GetRootQuillmereInstallPath() {
 }
 
 ustring Service::GetRootQuillmereResourceInstallPath() {
-    return GetRootQuillmereInstallPath() + "/Contents/Resources";
+    return Below(GetRootQuillmereInstallPath(), layout::kResources);
 }
 
 ustring Service::GetUserQuillmereInstallPath() {
-    return GetUserInstallPath() + "/" + ".Quillmere";
+    return Below(GetUserInstallPath(), layout::kUserDirectory);
 }
 
 ustring Service::GetUserQuillmereAppInstallPath() {
-    return GetUserQuillmereInstallPath() + "/" + "Quillmere.app";
+    return Below(GetUserQuillmereInstallPath(), layout::kApp);
 }
 
 ustring Service::GetUserQuillmereDataInstallPath() {
-    return GetUserQuillmereInstallPath() + "/" + "data";
+    return Below(GetUserQuillmereInstallPath(), layout::kData);
 }
 
 void Service::LoadSourceVersion() {
-    const ustring path = GetUserQuillmereAppInstallPath() + kInfo;
+    const ustring path = Below(GetUserQuillmereAppInstallPath(), layout::kInfo);
     if (!IsFileExist(path, false)) {
         Logger::LogMsg(LOG_LINE(INFO, "source does not exist\n"));
         return;
@@ -110,7 +114,7 @@ void Service::LoadSourceVersion() {
 }
 
 void Service::LoadTargetVersion() {
-    LoadVersion(GetRootQuillmereResourceInstallPath() + "/" + "INFO", target_version);
+    LoadVersion(Below(GetRootQuillmereInstallPath(), layout::kInfo), target_version);
     Logger::LogMsg(LOG_LINE(INFO, "target_version = (%s, %s, %s, %s)\n"),
                    target_version.major_version.c_str(), target_version.minor_version.c_str(),
                    target_version.build_version.c_str(),
@@ -128,7 +132,7 @@ bool IsAbsent(const ustring& path) {
 
 // Moves `app` to the first backup name that takes it. Result: 0, with the name and its index; -1.
 int BackUp(const ustring& app, ustring& backup, int& index) {
-    for (index = 0; index < kBackups; ++index) {
+    for (index = 0; index < layout::kBackups; ++index) {
         backup = GetAppBackupDir(app, index);
         if (FSRename(app, backup, false) == 0) {
             return 0;
@@ -145,7 +149,7 @@ int BackUp(const ustring& app, ustring& backup, int& index) {
 // Takes the new copy away and puts the old one back. The version goes first: should this end half
 // way, what is left of the new copy must not count as current.
 void RollBack(const ustring& app, const ustring& backup) {
-    FSRemove(app + kInfo, false);
+    FSRemove(Below(app, layout::kInfo), false);
     FSRemove(app, false);
     FSRename(backup, app, false);
     FlushTree(FSParentPath(app).c_str());
@@ -179,7 +183,7 @@ int Service::PrepareUserEnv() {
 }
 
 int Service::ExtractPackage() {
-    const ustring package = GetRootQuillmereResourceInstallPath() + "/package/quillmere.qpk";
+    const ustring package = Below(GetRootQuillmereInstallPath(), layout::kPackage);
     const ustring destination = GetUserQuillmereAppInstallPath();
     if (FSMKDir(destination, true) < 0) {
         Logger::LogMsg(LOG_LINE(ERROR, "failed to create folder: '%s'\n"), destination.c_str());
@@ -194,7 +198,7 @@ int Service::ExtractPackage() {
 }
 
 void Service::RemoveAgedFolders() {
-    const ustring path = GetUserQuillmereInstallPath() + "/app";
+    const ustring path = Below(GetUserQuillmereInstallPath(), layout::kAgedApp);
     Logger::LogMsg(LOG_LINE(INFO, "removing aged app folder %s\n"), path.c_str());
     FSRemove(path, false);
 }
