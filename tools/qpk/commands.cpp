@@ -152,7 +152,7 @@ PackageOptions ReadPackageOptions(const Parser& parser) {
 void Make(const QStringList& arguments) {
     Parser parser("Pack a client's directory into a package.");
     parser.Operand("CLIENT_DIR", "Client's directory, with Contents/MacOS/quillmere-ui in it.")
-        .Option({"o", "output"}, "Package to write.", "FILE");
+        .Option({"o", "output"}, "Package to write.", "PATH");
     AddPackageOptions(parser);
     if (!parser.Parse(arguments)) {
         return;
@@ -166,7 +166,7 @@ void Make(const QStringList& arguments) {
 void Bundle(const QStringList& arguments) {
     const QString data = QCoreApplication::applicationDirPath() + "/../lib/qpk/";
     Parser parser("Assemble a bundle of the launcher, its plug-ins and a client.");
-    parser.Option({"o", "output"}, "Bundle to create or update.", "DIR.app")
+    parser.Option({"o", "output"}, "Bundle to create or update.", "PATH")
         .Option({"client"}, "Client's directory.", "DIR")
         .Option({"launcher"}, "Launcher executable. Default: the one installed with qpk.", "EXE")
         .Option({"icon"}, "Window icon. Default: the one installed with qpk.", "PNG")
