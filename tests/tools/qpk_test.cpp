@@ -103,6 +103,8 @@ TEST_F(QpkTest, ManualPageListsTheWholeInterface) {
     EXPECT_EQ(TagsOfManual("KEYS"), names);
     const std::vector<std::string> lines = Captures(Shell("$Q info p").out, "^(\\w+):");
     EXPECT_EQ(std::set<std::string>(lines.begin(), lines.end()), names);
+    EXPECT_EQ(Shell("$Q info p | sed -n 's/^unpacked: //p'").out, Shell("tar --zstd -xOf p | wc -c").out);
+    EXPECT_EQ(Shell("$Q info p | sed -n 's/^entries: //p'").out, Shell("tar --zstd -tf p | wc -l").out);
     EXPECT_EQ(TagsOfManual("EXIT STATUS"), (std::set<std::string>{"0", "1", "2", "3"}));
 }
 

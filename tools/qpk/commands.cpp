@@ -101,7 +101,7 @@ void AddPackageOptions(Parser& parser) {
 }
 
 std::string PlainValue(const Parser& parser, const QString& name) {
-    const std::string value = parser.Value(name);
+    std::string value = parser.Value(name);
     if (!IsPlain(value)) {
         throw Error("--" + name.toStdString(), Message::kBadVersion);
     }
