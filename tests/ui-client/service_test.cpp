@@ -57,6 +57,7 @@ TEST_F(ServiceTest, DecisionAndStop) {
         FakeExtraction service([] { return 0; });
         EXPECT_EQ(service.Decide(row.source, row.target), row.upgrade);
         EXPECT_EQ(service.HandlePackageUpgrade(), 0);
+        EXPECT_FALSE(fs::exists(App() + layout::kBackupSuffix));
         EXPECT_EQ(service.stops, row.present ? 1 : 0);
     }
     EXPECT_EQ(LogLines("user installation is ready, removing backup app\n"), 10);
