@@ -18,6 +18,7 @@
 #include <QWidget>
 #include <cstdio>
 
+#include "install-layout.h"
 #include "platform/desktop/gui-environment.h"
 #include "platform/desktop/platform-plugins.h"
 
@@ -41,13 +42,13 @@ void QuitOnSigterm(QApplication& application) {
 }
 
 QString UserDirectory() {
-    return QDir::homePath() + "/.Quillmere";
+    return QDir::homePath() + "/" + layout::kUserDirectory;
 }
 
 // Present while the client runs, and never seen half written: QSaveFile renames it into place.
 class PidFile {
   public:
-    PidFile() : path_(UserDirectory() + "/ui.pid") {
+    PidFile() : path_(UserDirectory() + "/" + layout::kPidFile) {
         QSaveFile file(path_);
         const QByteArray line = "pid=" + QByteArray::number(getpid()) + "\n";
         if (!file.open(QIODevice::WriteOnly) || file.write(line) != line.size() || !file.commit()) {
@@ -63,7 +64,7 @@ class PidFile {
 };
 
 QString Version() {
-    const QString info = QCoreApplication::applicationDirPath() + "/../Resources/INFO";
+    const QString info = QCoreApplication::applicationDirPath() + "/../../" + layout::kInfo;
     QSettings settings(info, QSettings::IniFormat);
     settings.beginGroup("Version");
     return QString("%1.%2 build %3")

@@ -6,12 +6,14 @@
 #include <QCryptographicHash>
 #include <QFile>
 
+#include "install-layout.h"
+
 namespace {
 
 std::string LockPath(const QByteArray& program) {
     const QByteArray id =
         QCryptographicHash::hash(program, QCryptographicHash::Sha1).toHex().left(16);
-    return "/tmp/quillmere-launcher-" + id.toStdString() + "-" + std::to_string(getuid()) + ".lock";
+    return layout::kInstanceLockPrefix + id.toStdString() + "-" + std::to_string(getuid()) + ".lock";
 }
 
 }  // namespace

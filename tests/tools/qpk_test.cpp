@@ -1,5 +1,12 @@
-// The makers' tool, driven as its users drive it.
+// qpk, run as its users run it.
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <set>
+#include <sstream>
+
 #include "e2e/harness.h"
+#include "make_archive.h"
 
 namespace fs = std::filesystem;
 
@@ -11,6 +18,43 @@ struct Result {
     std::string err;
 };
 
+// The rows of a section of the manual page: the tag of a paragraph, and its text.
+using Rows = std::vector<std::pair<std::string, std::string>>;
+
+Rows RowsOfManual(const std::string& section) {
+    Rows rows;
+    std::istringstream page(ReadFile(MANUAL));
+    std::string line;
+    while (std::getline(page, line) && line != ".SH " + section) {}
+    while (std::getline(page, line) && line.rfind(".SH ", 0) != 0) {
+        line.erase(std::remove(line.begin(), line.end(), '\\'), line.end());
+        if (line == ".TP") {
+            std::getline(page, line);
+            line.erase(std::remove(line.begin(), line.end(), '\\'), line.end());
+            rows.emplace_back(line.substr(std::string(".B ").size()), "");
+        } else if (!rows.empty()) {
+            rows.back().second += line;
+        }
+    }
+    return rows;
+}
+
+std::set<std::string> TagsOfManual(const std::string& section) {
+    std::set<std::string> tags;
+    for (const auto& row : RowsOfManual(section)) { tags.insert(row.first); }
+    return tags;
+}
+
+// What a pattern captures in a text, in all places.
+std::vector<std::string> Captures(const std::string& text, const char* pattern) {
+    std::vector<std::string> captures;
+    const QRegularExpression expression(pattern, QRegularExpression::MultilineOption);
+    for (auto match = expression.globalMatch(QString::fromStdString(text)); match.hasNext();) {
+        captures.push_back(match.next().captured(1).toStdString());
+    }
+    return captures;
+}
+
 class QpkTest : public testing::Test {
   protected:
     QpkTest() { Shell("mkdir -p c/Contents/{MacOS,R} && cp /bin/true c/Contents/MacOS/quillmere-ui"); }
@@ -21,29 +65,101 @@ class QpkTest : public testing::Test {
         shell.setWorkingDirectory(QString::fromStdString(dir_.path()));
         shell.start("bash", {"-c", QString::fromStdString("Q=" QPK "; " + line)});
         shell.waitForFinished(60000);
-        return {shell.exitCode(), shell.readAllStandardOutput().toStdString(),
-                shell.readAllStandardError().toStdString()};
+        const Result result{shell.exitCode(), shell.readAllStandardOutput().toStdString(),
+                            shell.readAllStandardError().toStdString()};
+        EXPECT_FALSE(Contains(result.err, "TEXT")) << result.err;
+        return result;
     }
 
     const TempDir dir_;
 };
 
+TEST_F(QpkTest, ManualPageListsTheWholeInterface) {
+    const Rows messages{
+#define QPK_MESSAGE(name, exit_code, wrong, remedy) {#exit_code ": " wrong, remedy},
+#include "tools/qpk/messages.inc"
+#undef QPK_MESSAGE
+    };
+    EXPECT_EQ(RowsOfManual("MESSAGES"), messages);
+    const std::vector<std::string> commands = Captures(Shell("$Q --help").out, "^  (\\w+)");
+    EXPECT_EQ(TagsOfManual("COMMANDS"), std::set<std::string>(commands.begin(), commands.end()));
+    std::map<std::string, std::string> rows;  // an option, and the commands that have it
+    for (const std::string& command : commands) {
+        for (std::string option : Captures(Shell("$Q " + command + " --help").out, "^  (-.*?)(?:  |$)")) {
+            option.erase(std::remove_if(option.begin(), option.end(), [](char c) { return c == '<' || c == '>'; }),
+                         option.end());
+            std::string& row = rows[option];
+            row += (row.empty() ? "" : " ") + command;
+        }
+    }
+    std::set<std::string> options;
+    for (const auto& row : rows) { options.insert(row.second + ": " + row.first); }
+    EXPECT_EQ(TagsOfManual("OPTIONS"), options);
+    EXPECT_EQ(Shell("$Q make c -o p --build 7").exit_code, 0);
+    const QStringList keys =
+        QJsonDocument::fromJson(QByteArray::fromStdString(Shell("$Q info --json p").out)).object().keys();
+    std::set<std::string> names;
+    for (const QString& key : keys) { names.insert(key.toStdString()); }
+    EXPECT_EQ(TagsOfManual("KEYS"), names);
+    const std::vector<std::string> lines = Captures(Shell("$Q info p").out, "^(\\w+):");
+    EXPECT_EQ(std::set<std::string>(lines.begin(), lines.end()), names);
+    EXPECT_EQ(Shell("$Q info p | sed -n 's/^unpacked: //p'").out, Shell("tar --zstd -xOf p | wc -c").out);
+    EXPECT_EQ(Shell("$Q info p | sed -n 's/^entries: //p'").out, Shell("tar --zstd -tf p | wc -l").out);
+    EXPECT_EQ(TagsOfManual("EXIT STATUS"), (std::set<std::string>{"0", "1", "2", "3"}));
+}
+
+TEST_F(QpkTest, WrongUsage) {
+    const std::string range = ", which is not a number from ";
+    const std::pair<std::string, std::string> lines[] = {
+        {"$Q", "COMMAND: is missing: see qpk --help"},
+        {"$Q pack", "pack: is not a command: see qpk --help"},
+        {"$Q make -o p", "CLIENT_DIR: is missing: see qpk --help"},
+        {"$Q make c", "--output: is missing: see qpk --help"},
+        {"$Q make c d -o p", "d: is one operand too many: see qpk --help"},
+        {"$Q make c --fast", "qpk make: has wrong arguments, Unknown option 'fast': see its --help"},
+        {"$Q check", "FILE or --bundle: is missing: see qpk --help"},
+        {"$Q make c -o p --minor 1", "--build: is missing: see qpk --help"},
+        {"$Q make c -o p --build 1 --major '1 2'",
+         "--major: has characters other than letters, digits and . + - _: remove them"},
+        {"$Q make c -o p --build 12a", "--build: is 12a" + range + "0 to 2147483647: give a number in this range"},
+        {"$Q make c -o p --build=-1", "--build: is -1" + range},
+        {"$Q make c -o p --build=+1", "--build: is +1" + range},
+        {"$Q make c -o p --build 2147483648", "--build: is 2147483648" + range},
+        {"$Q make c -o p --build ''", "--build: is " + range},
+        {"$Q make c -o p --build 1 --level 9abc", "--level: is 9abc" + range + "1 to 19: give a number in this range"},
+        {"$Q make c -o p --build 1 --level 0", "--level: is 0" + range},
+        {"$Q make c -o p --build 1 --level 20", "--level: is 20" + range},
+        {"SOURCE_DATE_EPOCH=5s $Q make c -o p --build 1", "SOURCE_DATE_EPOCH: is 5s" + range},
+    };
+    for (const auto& line : lines) {
+        const Result run = Shell(line.first);
+        EXPECT_EQ(run.exit_code, 2) << line.first;
+        EXPECT_EQ(run.err.rfind("qpk: " + line.second, 0), 0) << line.first << "\n" << run.err;
+    }
+    EXPECT_FALSE(fs::exists(dir_ / "p"));
+    EXPECT_EQ(Shell("$Q make c -o p --build 2147483647 --level 1").exit_code, 0);
+}
+
 TEST_F(QpkTest, MakeListsEveryFaultOfAClient) {
-    const std::string n(240, 'n');
+    const std::string name(224, 'n');
+    const std::string path = name + "/" + name + "/" + name + "/" + name + "n";  // 900 bytes
     const std::pair<std::string, std::string> faults[] = {
-        {"touch a/foo a/Foo", "a/foo: differs from a/Foo only by"},
-        {"touch a/$'e\\xcc\\x81' a/$'\\xc3\\x89'", ": differs from a/e\u0301 only by"},
-        {"mkdir contents", "contents: differs from Contents only by"},
-        {"touch $'bad\\xff'", "bad\xff: name is not UTF-8"},
-        {"touch $'a\\nb' && ln $'a\\nb' hard", "hard: hard link to a\\x0Ab"},
-        {"mkdir -p " + n + "/" + n + "/" + n + "/" + n, "path longer than 900"},
-        {"ln -s /etc/passwd absolute", "absolute: link to /etc/passwd leaves the client"},
-        {"ln -s ../c/x up", "up: link to ../c/x leaves the client"},
-        {"ln -s ../.. a/d/in && ln -s a/d/in/.. over", "over: link to a/d/in/.. leaves"},
-        {"ln -s circle circle", "circle: link to circle goes in a circle"},
-        {"mkfifo fifo", "fifo: is no file, directory or symbolic link"},
-        {"cp /bin/true suid && chmod u+s suid", "suid: set-user-id or set-group-id bit"},
-        {"chmod a-x Contents/MacOS/quillmere-ui", "quillmere-ui: is no executable file"},
+        {"touch a/foo a/Foo", "a/foo: differs from a/Foo only in case"},
+        {"touch a/$'e\\xcc\\x81' a/$'\\xc3\\x89'", ": differs from a/e\u0301 only in case"},
+        {"mkdir contents", "contents: differs from Contents only in case"},
+        {"touch $'bad\\xff'", "bad\xff: has a name that is not UTF-8"},
+        {"touch $'a\\nb' && ln $'a\\nb' hard", "hard: is a hard link to a\\x0Ab"},
+        {"mkdir -p " + path + " " + path + "n", path + "n: has a name longer than 255"},
+        {"ln -s /etc/passwd absolute", "absolute: is a symbolic link to /etc/passwd, outside"},
+        {"ln -s ../c/x up", "up: is a symbolic link to ../c/x, outside the client"},
+        {"ln -s ../.. a/d/in && ln -s a/d/in/.. over", "over: is a symbolic link to a/d/in/.., outside"},
+        {"ln -s circle circle", "circle: is a symbolic link to circle, part of a loop"},
+        {"ln -s " + std::string(1023, 'x') + " long && ln -s " + std::string(1024, 'x') + " longer",
+         "longer: is a symbolic link with an empty text or one longer than 1023"},
+        {"mkfifo fifo", "fifo: is not a regular file, directory or symbolic link"},
+        {"cp /bin/true suid && chmod u+s suid", "suid: has a set-user-id or set-group-id bit"},
+        {"cp /bin/true sgid && chmod g+s sgid", "sgid: has a set-user-id or set-group-id bit"},
+        {"chmod a-x Contents/MacOS/quillmere-ui", "quillmere-ui: is not an executable file"},
         {"echo > Contents/Resources/INFO", "INFO: has no build_version"},
     };
     Shell("mkdir -p c/a/d c/Contents/Resources");
@@ -53,10 +169,9 @@ TEST_F(QpkTest, MakeListsEveryFaultOfAClient) {
     for (const auto& fault : faults) { EXPECT_TRUE(Contains(run.err, fault.second)) << fault.second; }
     EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), std::size(faults)) << run.err;
     EXPECT_FALSE(fs::exists(dir_ / "p"));
-    for (const std::string version : {"12a", "-1", "+1", "2147483648", "''"}) {
-        EXPECT_EQ(Shell("$Q make c -o p --build " + version).exit_code, 2) << version;
-    }
-    EXPECT_TRUE(Contains(Shell("rm -r c/* && $Q make c -o p").err, "INFO: is missing"));
+    EXPECT_EQ(Shell("rm -r c/* && $Q make c -o p").err,
+              "qpk: Contents/MacOS/quillmere-ui: is missing: add the client's executable\n"
+              "qpk: Contents/Resources/INFO: is missing: add it or use --build\n");
 }
 
 TEST_F(QpkTest, PackagesAreReproducibleAndInstall) {
@@ -72,34 +187,45 @@ TEST_F(QpkTest, PackagesAreReproducibleAndInstall) {
               "Contents/R\na\na/X\na/b\na/b/link\na/b/x\nnoise\nContents/Resources/INFO\n");
     EXPECT_EQ(Shell("$Q check 1").exit_code, 0);
     EXPECT_NE(Shell("$Q make d -o 3 --build 7 && cmp 1 3").exit_code, 0) << "the time is not used";
-    EXPECT_TRUE(Contains(Shell("trap '' XFSZ; ulimit -f 10; $Q make d -o 4 --build 7").err, "4: File too large"));
-    EXPECT_TRUE(Contains(Shell("mkfifo 4; $Q make d -o 4 --build 7").err, "4: is no regular file"));
-    // Noise is stored as it is, and nothing but the checksum tells that it has changed.
+    EXPECT_TRUE(Contains(Shell("trap '' XFSZ; ulimit -f 10; $Q make d -o 4 --build 7").err,
+                         "4: cannot be written: File too large: check"));
+    EXPECT_TRUE(Contains(Shell("mkfifo 4; $Q make d -o 4 --build 7").err, "4: is not a regular file"));
+    // Noise is stored as it is, and only the checksum shows that it has changed.
     Shell("printf '\\x55\\xaa\\x55' | dd of=1 bs=1 seek=200000 conv=notrunc");
     EXPECT_EQ(Shell("$Q check 1").exit_code, 1);
 }
 
-TEST_F(QpkTest, CheckTellsWhatOtherPackersDoWrong) {
+TEST_F(QpkTest, CheckFindsTheFaultsOfOtherPackers) {
     const std::pair<std::string, std::string> packages[] = {
-        {"tar -cf ../p Contents", "has no checksum"},
-        {"tar -cf - Contents | zstd -q --no-check > ../p", "has no checksum"},
-        {"tar -czf ../p Contents R", "INFO: is not the last entry"},
-        {"ln Contents/MacOS/quillmere-ui z && tar -czf ../p .; rm z", "does not install"},
-        {"tar -czPf ../p --transform s,MacOS,../MacOS, Contents", "has \"..\" in its path"},
-        {"tar -czPf ../p --transform s,Contents/MacOS,/MacOS, Contents", "/MacOS: absolute path"},
-        {"chmod 555 R && tar -czf ../p .; chmod 755 R", "R: directory that its owner cannot"},
-        {"ln -s /tmp z && tar -czf ../p .; rm z", "was not unpacked"},
-        {"tar -czf ../p Contents Contents/MacOS/quillmere-ui", "quillmere-ui: comes twice"},
-        {"tar -czf ../p Contents R --transform s,R$,contents/x,", "contents: differs from Contents"},
-        {"tar -czf ../p R --transform s,R,$(printf 'r%.0s' {1..256}),", "name is longer than 255"},
-        {"tar -cf - Contents | head -c 30000 > ../p", "damaged after"},
-        {"head -c 1000 ../good > ../p", "would never install"},
-        {"cp ../good ../p", "is 7 in the package and 8 in the bundle: every start would be"},
+        {"tar -cf ../p Contents", "p: has no checksum"},
+        {"tar -cf - Contents | zstd -q --no-check > ../p", "p: has no checksum"},
+        {"tar -czf ../p Contents R", "Contents/Resources/INFO: is not the last entry"},
+        {"ln Contents/MacOS/quillmere-ui z && tar -czf ../p .; rm z",
+         "p: cannot be installed; the launcher would log ["},
+        {"tar -czPf ../p --transform s,MacOS,../MacOS, Contents", "/quillmere-ui: has .. in its path"},
+        {"tar -czPf ../p --transform s,Contents/MacOS,/MacOS, Contents", "/MacOS: has an absolute path"},
+        {"chmod 555 R && tar -czf ../p .; chmod 755 R", "R: is a directory that its owner cannot read, write"},
+        {"ln -s /tmp z && tar -czf ../p .; rm z", "p: was not installed as a test"},
+        {"tar -czf ../p Contents Contents/MacOS/quillmere-ui", "quillmere-ui: appears twice"},
+        {"tar -czf ../p Contents R --transform s,R$,contents/x,", "contents: differs from Contents only"},
+        {"tar -czf ../p R --transform s,R,$(printf 'r%.0s' {1..256}),", "r: has a name longer than 255"},
+        {"tar -cf - Contents | head -c 30000 > ../p", "p: is damaged after "},
+        {"head -c 1000 ../good > ../p", "p: cannot be read as an archive: "},
+        {"printf '#mtree\\nINFO type=file size=-5\\n' | gzip > ../p",
+         "p: cannot be read as an archive: Negative size of INFO"},
+        {"printf '#mtree\\na type=dir\\nb type=file size=-5\\n' | gzip > ../p",
+         "p: is damaged after 1 entries: Negative"},
+        {": > e && tar -czf ../p Contents/MacOS e --transform s,^e,Contents/Resources/INFO,; rm e",
+         "INFO: has no build_version"},
+        {"echo build_version=1x > e && sed -i '1i [Version]' e &&"
+         "tar -czf ../p Contents/MacOS e --transform s,^e,Contents/Resources/INFO,; rm e",
+         "INFO: has the build_version 1x, which is not a number"},
+        {"cp ../good ../p", "B/Contents/Resources/INFO: has build_version 7 in the package and 8 in the bundle"},
     };
     Shell(
         "$Q make c -o p --build 7; cd c && mv Contents/R . && tar -xf ../p Contents/Resources &&"
         "tar -czf ../good ./Contents/MacOS Contents/Resources; cd ..; cp -r c B; sed -i s/7/8/ B/*/*/INFO");
-    EXPECT_EQ(Shell("$Q check good").exit_code, 0);
+    EXPECT_EQ(Shell("$Q check good").out, "good: can be installed and removed\n");
     for (const auto& package : packages) {
         ASSERT_EQ(Shell("cd c && " + package.first).exit_code, 0) << package.first;
         const Result run = Shell("$Q check p --bundle B");
@@ -107,7 +233,23 @@ TEST_F(QpkTest, CheckTellsWhatOtherPackersDoWrong) {
         EXPECT_TRUE(Contains(run.err, package.second)) << package.first << "\n" << run.err;
     }
     EXPECT_TRUE(Contains(Shell("$Q info good --json").out, "\"build_version\": \"7\""));
+    EXPECT_EQ(Shell("$Q check nothing").err,
+              "qpk: nothing: cannot be read: No such file or directory: check the path and its permissions\n");
     EXPECT_EQ(Shell("$Q check nothing").exit_code, 3);
+}
+
+// The temporary directory goes even where the launcher's own removal would run out of descriptors.
+TEST_F(QpkTest, CheckLeavesNothingBehind) {
+    const std::pair<int, const char*> depths[] = {{1500, "d: has a name longer than 255"},
+                                                  {5000, "p: cannot be installed; the launcher would log ["}};
+    for (const auto& [depth, message] : depths) {
+        std::string path;
+        for (int level = 0; level < depth; ++level) { path += level == 0 ? "d" : "/d"; }
+        MakeArchive(dir_ / "p", {{path, "x"}});
+        const Result run = Shell("mkdir t; ulimit -n 256; TMPDIR=$PWD/t $Q check p; ls t; rm -r t");
+        EXPECT_TRUE(Contains(run.err, message)) << run.err;
+        EXPECT_EQ(run.out, "");
+    }
 }
 
 TEST_F(QpkTest, BundleInstallsItsClient) {
@@ -127,7 +269,8 @@ TEST_F(QpkTest, BundleInstallsItsClient) {
     EXPECT_EQ(world.Installed(), "7");
     Shell("mkdir -p P/{themes,wayland-x}; cp -r " QT_PLUGINS
           "/platforms P; sed -i s/Qpa.so.5/Qpa.so.9/ P/*/libqxcb.so");
-    EXPECT_TRUE(Contains(Shell(line + "b --copy-plugins --plugins P").err, "XcbQpa.so.9 => not found"));
+    EXPECT_TRUE(
+        Contains(Shell(line + "b --copy-plugins --plugins P").err, "XcbQpa.so.9 => not found: install the library"));
     EXPECT_EQ(Shell(line + "b --plugins P && ls b/Contents/Frameworks/plugins/").out, "platforms\nwayland-x\n");
 }
 

@@ -194,7 +194,8 @@ TEST_F(ExtractorTest, PoursOneEntry) {
     MakeArchive(home / "archive", {{home / "poured", std::string(100000, '1')}});
     const ArchiveReader reader(archive_read_new());
     const ArchiveWriter writer(archive_write_disk_new());
-    EXPECT_EQ(extractor.copy_data(nullptr, writer.get()) + extractor.copy_data(reader.get(), nullptr), -2);
+    EXPECT_EQ(extractor.copy_data(nullptr, writer.get()), -1);
+    EXPECT_EQ(extractor.copy_data(reader.get(), nullptr), -1);
     archive_read_support_format_all(reader.get());
     archive_read_open_filename(reader.get(), (home / "archive").c_str(), 10240);
     archive_entry* entry = nullptr;

@@ -7,6 +7,7 @@
 #include <regex>
 
 #include "in_child.h"
+#include "install-layout.h"
 #include "ui-client/launcher/launcher.h"
 #include "ui-client/launcher/mac/mac-service.h"
 #include "ui-client/service_fixture.h"
@@ -15,8 +16,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr char kExecutable[] = "/Contents/MacOS/quillmere-ui";
-constexpr char kInfo[] = "/Contents/Resources/INFO";
+const std::string kExecutable = std::string("/") + layout::kExecutable;
+const std::string kInfo = std::string("/") + layout::kInfo;
 
 std::string App() { return Service::GetUserQuillmereAppInstallPath().c_str(); }
 
@@ -56,6 +57,7 @@ TEST_F(ServiceTest, DecisionAndStop) {
         FakeExtraction service([] { return 0; });
         EXPECT_EQ(service.Decide(row.source, row.target), row.upgrade);
         EXPECT_EQ(service.HandlePackageUpgrade(), 0);
+        EXPECT_FALSE(fs::exists(App() + layout::kBackupSuffix));
         EXPECT_EQ(service.stops, row.present ? 1 : 0);
     }
     EXPECT_EQ(LogLines("user installation is ready, removing backup app\n"), 10);
@@ -135,7 +137,10 @@ TEST_F(ServiceTest, CopiesTrees) {
                     {"plain", "deep"}};
     EXPECT_EQ(Look(home / "to"), tree);
     fs::create_symlink("nowhere", home / "from/a/b/dangling");
-    EXPECT_EQ(copy("from", "broken") + copy("none", "x") + copy("from", "to/plain") + service.FSCopyPath("", "x"), -4);
+    EXPECT_EQ(copy("from", "broken"), -1);
+    EXPECT_EQ(copy("none", "x"), -1);
+    EXPECT_EQ(copy("from", "to/plain"), -1);
+    EXPECT_EQ(service.FSCopyPath("", "x"), -1);
     EXPECT_EQ(LogLines("FSCopyPath: failed to copy from"), 3);  // one on each level of the way up
     EXPECT_EQ(LogLines("FSCopyPath: source path '"), 1);
     EXPECT_EQ(LogLines("FSCopyPath: failed to create dest folder"), 1);

@@ -7,9 +7,9 @@
 #include <QXmlStreamWriter>
 #include <filesystem>
 
+#include "install-layout.h"
 #include "tools/qpk/client-tree.h"
-#include "tools/qpk/error.h"
-#include "tools/qpk/layout.h"
+#include "tools/qpk/message.h"
 
 namespace fs = std::filesystem;
 
@@ -28,7 +28,7 @@ void WriteFile(const fs::path& path, const QByteArray& content) {
     QSaveFile file(QString::fromStdString(path.string()));
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
         !file.commit()) {
-        throw Failure(path.string() + ": " + file.errorString().toStdString());
+        throw Error(path.string(), Message::kCannotWrite, {file.errorString().toStdString()});
     }
 }
 
@@ -41,7 +41,7 @@ void CopyFile(const fs::path& from, const fs::path& to) {
     fs::rename(unfinished, to);
 }
 
-// ldd(1), where there is one, tells of each library that the system's loader would not find.
+// ldd(1), where there is one, names each library that the system's loader would not find.
 void RequireLibraries(const fs::path& plugin) {
     const QString program = QStandardPaths::findExecutable("ldd");
     if (program.isEmpty()) {
@@ -50,17 +50,17 @@ void RequireLibraries(const fs::path& plugin) {
     QProcess ldd;
     ldd.start(program, {QString::fromStdString(plugin.string())});
     if (!ldd.waitForFinished(-1) || ldd.exitStatus() != QProcess::NormalExit) {
-        throw Failure("ldd: " + ldd.errorString().toStdString());
+        throw Error("ldd", Message::kCannotRun, {ldd.errorString().toStdString()});
     }
     Findings missing;
     for (const QByteArray& line : ldd.readAllStandardOutput().split('\n')) {
         if (line.contains("not found")) {
-            missing.push_back({plugin.string(), "needs " + line.trimmed().toStdString() +
-                                                    ": the launcher would have no window"});
+            missing.push_back(
+                {plugin.string(), Message::kLibraryMissing, {line.trimmed().toStdString()}});
         }
     }
     if (!missing.empty()) {
-        throw Refused(missing);
+        throw Error(missing);
     }
 }
 
@@ -131,7 +131,7 @@ std::string Escaped(const std::string& path) {
     return escaped;
 }
 
-// One rule: the version file, which is written last, hangs on every file and directory of the
+// One rule: the version file, which is written last, depends on every file and directory of the
 // client. A file that comes or goes, and a link that changes, is seen by its directory.
 void WriteDepfile(const BundleOptions& options) {
     const std::string client = fs::absolute(options.package.client).string();
@@ -171,6 +171,6 @@ void WriteBundle(const BundleOptions& options) {
     try {
         Assemble(options);
     } catch (const fs::filesystem_error& error) {
-        throw Failure(error.path1().string() + ": " + error.code().message());
+        throw Error(error.path1().string(), Message::kCannotWrite, {error.code().message()});
     }
 }

@@ -11,11 +11,11 @@ struct BundleOptions {
     std::string plugins;        // the directory of Qt's plug-ins
     bool copy_plugins = false;  // copy those that are needed, else link to the window systems'
     std::string output;         // the bundle, a directory
-    std::string depfile;        // what the bundle hangs on, in the syntax of make(1); "" for none
+    std::string depfile;        // what the bundle depends on, in the syntax of make(1); "" for none
     PackageOptions package;     // all but the name of its file
 };
 
 // Makes the bundle, or brings one up to date: each file is replaced as a whole, the version last,
 // so that a launcher which is started meanwhile finds either the former package or the new one.
-// Throws Refused or Failure.
+// Throws Error.
 void WriteBundle(const BundleOptions& options);

@@ -1,25 +1,28 @@
 // Would a package install, and could it be removed again?
 #include "tools/qpk/check.h"
 
-#include <QFile>
+#include <fts.h>
+#include <sys/stat.h>
+
 #include <QTemporaryDir>
 #include <algorithm>
-#include <filesystem>
+#include <cstdio>
+#include <memory>
 
 #include "file/file-op.h"
+#include "free-by.h"
+#include "install-layout.h"
 #include "log.h"
-#include "tools/qpk/error.h"
-#include "tools/qpk/layout.h"
 #include "tools/qpk/links.h"
+#include "tools/qpk/message.h"
 #include "tools/qpk/package-reader.h"
 #include "tools/qpk/progress.h"
+#include "tools/qpk/read-file.h"
 #include "tools/qpk/rules.h"
 #include "tools/qpk/version-info.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/launcher/str-table.h"
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -27,19 +30,11 @@ void Append(Findings& findings, const Findings& more) {
     findings.insert(findings.end(), more.begin(), more.end());
 }
 
-std::string Content(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw Failure(path.toStdString() + ": " + file.errorString().toStdString());
-    }
-    return file.readAll().toStdString();
-}
-
 // The launcher's log lines from here on, without their time stamps.
 class LogLines {
   public:
-    explicit LogLines(const QString& path) : path_(path) {
-        Logger::Initialize(Logger::TYPE_FILE, path.toStdString(), "", 2);
+    explicit LogLines(const std::string& path) : path_(path) {
+        Logger::Initialize(Logger::TYPE_FILE, path, "", 2);
     }
     ~LogLines() { Logger::Destroy(); }
     LogLines(const LogLines&) = delete;
@@ -47,13 +42,13 @@ class LogLines {
 
     std::string Last() const {
         const QList<QByteArray> lines =
-            QByteArray::fromStdString(Content(path_)).trimmed().split('\n');
+            QByteArray::fromStdString(ReadFile(path_)).trimmed().split('\n');
         const QByteArray& line = lines.last();
         return line.mid(line.indexOf('[')).toStdString();
     }
 
   private:
-    const QString path_;
+    const std::string path_;
 };
 
 int Extract(const std::string& package, const std::string& destination) {
@@ -69,50 +64,52 @@ int Extract(const std::string& package, const std::string& destination) {
     return result;
 }
 
-// A temporary directory, removed with all it holds: what FSRemove could not remove as well.
+// Removes a tree of any depth, directories that their owner may not change included. fts(3) reads a
+// directory after it has returned it.
+void RemoveTree(std::string path) {
+    char* const paths[] = {&path[0], nullptr};
+    const std::unique_ptr<FTS, FreeBy<fts_close>> walk(fts_open(paths, FTS_PHYSICAL, nullptr));
+    while (const FTSENT* const entry = walk ? fts_read(walk.get()) : nullptr) {
+        if (entry->fts_info == FTS_D) {
+            chmod(entry->fts_accpath, S_IRWXU);
+        } else {
+            remove(entry->fts_accpath);
+        }
+    }
+}
+
+// A temporary directory, removed with everything in it.
 class Scratch {
   public:
     Scratch() {
         directory_.setAutoRemove(false);
         if (!directory_.isValid()) {
-            throw Failure("no temporary directory: " + directory_.errorString().toStdString());
+            throw Error("temporary directory", Message::kNoTemporaryFile,
+                        {directory_.errorString().toStdString()});
         }
     }
-    ~Scratch() {
-        std::error_code ignored;
-        const fs::path root = directory_.path().toStdString();
-        fs::recursive_directory_iterator entry(root, ignored);
-        for (; entry != fs::recursive_directory_iterator(); entry.increment(ignored)) {
-            if (entry->symlink_status(ignored).type() == fs::file_type::directory) {
-                fs::permissions(*entry, fs::perms::owner_all, ignored);
-            }
-        }
-        fs::remove_all(root, ignored);
-    }
+    ~Scratch() { RemoveTree(directory_.path().toStdString()); }
     Scratch(const Scratch&) = delete;
     Scratch& operator=(const Scratch&) = delete;
 
-    QString Path(const char* name) const { return directory_.filePath(name); }
+    std::string Path(const char* name) const { return directory_.filePath(name).toStdString(); }
 
   private:
     QTemporaryDir directory_;
 };
 
-// The way of a package into a user's home, and out of it at the next upgrade.
+// Installs the package as into a user's home, and removes the copy as the next upgrade would.
 Findings TryOut(const std::string& package) {
     const Scratch scratch;
     const LogLines log(scratch.Path("log"));
-    const std::string app = scratch.Path("Quillmere.app").toStdString();
+    const std::string app = scratch.Path(layout::kApp);
     Findings findings;
     StrTable::InitStrTable();
     if (FSMKDir(app, true) < 0 || Extract(package, app) != 0) {
-        findings.push_back(
-            {"", "does not install; the launcher would keep the old copy and log: " + log.Last()});
+        findings.push_back({package, Message::kNotInstalled, {log.Last()}});
     }
-    if (FSRemove(app, false) != 0 || QFile::exists(QString::fromStdString(app))) {
-        findings.push_back({"",
-                            "cannot be removed once installed: every upgrade would leave the "
-                            "old copy behind, and after ten none is possible"});
+    if (FSRemove(app, false) != 0 || IsFileExist(app, false)) {
+        findings.emplace_back(package, Message::kNotRemoved);
     }
     return findings;
 }
@@ -131,22 +128,11 @@ Findings CheckVersion(const std::string& info, const std::string& bundle) {
         return findings;
     }
     const std::string file = bundle + "/" + layout::kInfo;
-    const VersionInfo offered = ParseVersion(Content(QString::fromStdString(file)));
-    const std::string numbers =
-        "build_version is " + version.build_version + " in the package and ";
-    if (!IsBuildNumber(offered.build_version)) {
-        findings.push_back({layout::kInfo, numbers + "no number in the bundle: it would never "
-                                                     "count as newer than an installed copy"});
-        return findings;
-    }
-    const int difference = std::stoi(version.build_version) - std::stoi(offered.build_version);
-    if (difference < 0) {
-        findings.push_back({layout::kInfo, numbers + offered.build_version +
-                                               " in the bundle: every start would be an upgrade"});
-    } else if (difference > 0) {
-        findings.push_back({layout::kInfo, numbers + offered.build_version +
-                                               " in the bundle: who has the build of the bundle "
-                                               "would not get this one"});
+    const VersionInfo offered = ParseVersion(ReadFile(file));
+    const auto bundle_build = ParseNumber(offered.build_version, 0, kHighestBuild);
+    if (bundle_build != ParseNumber(version.build_version, 0, kHighestBuild)) {
+        findings.push_back(
+            {file, Message::kBuildsDiffer, {version.build_version, offered.build_version}});
     }
     return findings;
 }
@@ -160,22 +146,20 @@ Findings CheckPackage(const std::string& package, const std::string& bundle) {
     Findings findings = FaultsOf(entries);
     if (!facts.damage.empty()) {
         findings.push_back(
-            {"", "damaged after " + std::to_string(facts.entries) + " entries: " + facts.damage});
+            {package, Message::kDamaged, {std::to_string(facts.entries), facts.damage}});
     }
-    if (!facts.info.empty()) {
-        Append(findings, CheckVersion(facts.info, bundle));
+    if (facts.info) {
+        Append(findings, CheckVersion(*facts.info, bundle));
         if (!facts.info_is_last) {
-            findings.push_back({layout::kInfo,
-                                "is not the last entry: a copy that was cut short "
-                                "would look current, and stay"});
+            findings.emplace_back(layout::kInfo, Message::kInfoNotLast);
         }
     }
     if (!facts.has_checksum) {
-        findings.push_back({"", "has no checksum: damage on the way to the user can go unseen"});
+        findings.emplace_back(package, Message::kNoChecksum);
     }
-    // The launcher follows such links when it unpacks, out of a temporary directory too.
+    // The extractor follows such links, out of a temporary directory too.
     if (LinksLeave(entries)) {
-        findings.push_back({"", "was not unpacked for a test, since links leave the client"});
+        findings.emplace_back(package, Message::kNotTried);
     } else {
         Append(findings, TryOut(package));
     }

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "tools/qpk/entry.h"
+#include "tools/qpk/message.h"
 
 // Looks at the package's entries, and installs and removes it below a temporary directory with the
 // launcher's own code. `bundle` is the bundle that will carry the package, "" for none. Result: all

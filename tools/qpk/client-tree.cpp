@@ -8,7 +8,7 @@
 #include <map>
 #include <utility>
 
-#include "tools/qpk/error.h"
+#include "tools/qpk/message.h"
 
 namespace fs = std::filesystem;
 
@@ -45,7 +45,7 @@ class TreeReader {
     Entry Describe(const fs::path& file) {
         struct stat status;
         if (lstat(file.c_str(), &status) != 0) {
-            throw Failure(file.string() + ": " + std::strerror(errno));
+            throw Error(file.string(), Message::kCannotRead, {std::strerror(errno)});
         }
         Entry entry;
         entry.path = file.lexically_relative(directory_).string();
@@ -84,6 +84,6 @@ Entries ReadClientTree(const std::string& directory) {
     try {
         return TreeReader(directory).Read();
     } catch (const fs::filesystem_error& error) {
-        throw Failure(error.path1().string() + ": " + error.code().message());
+        throw Error(error.path1().string(), Message::kCannotRead, {error.code().message()});
     }
 }

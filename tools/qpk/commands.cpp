@@ -8,11 +8,13 @@
 #include <QJsonObject>
 #include <QLibraryInfo>
 #include <cstdio>
+#include <limits>
+#include <optional>
 
+#include "install-layout.h"
 #include "tools/qpk/bundle.h"
 #include "tools/qpk/check.h"
-#include "tools/qpk/error.h"
-#include "tools/qpk/layout.h"
+#include "tools/qpk/message.h"
 #include "tools/qpk/package-reader.h"
 #include "tools/qpk/zstd-file.h"
 
@@ -28,7 +30,7 @@ class Parser {
     explicit Parser(const char* description) {
         parser_.setApplicationDescription(description);
         parser_.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
-        parser_.addOption({{"h", "help"}, "Show this help."});
+        parser_.addOption({{"h", "help"}, "Print this help."});
     }
 
     // An option with a value if `value` is given, else a switch.
@@ -46,16 +48,18 @@ class Parser {
     // Result: false when the help was asked for, and shown.
     bool Parse(const QStringList& arguments) {
         if (!parser_.parse(arguments)) {
-            throw UsageError(parser_.errorText().toStdString());
+            throw Error(arguments.constFirst().toStdString(), Message::kBadArguments,
+                        {parser_.errorText().remove('.').toStdString()});
         }
         if (parser_.isSet("help")) {
             const QString program = QCoreApplication::arguments().constFirst();
             Print(parser_.helpText().replace(program, arguments.constFirst()).toUtf8());
             return false;
         }
-        if (parser_.positionalArguments().size() > (operand_.isEmpty() ? 0 : 1)) {
-            throw UsageError("too many operands: " +
-                             parser_.positionalArguments().join(' ').toStdString());
+        const int most = operand_.isEmpty() ? 0 : 1;
+        if (parser_.positionalArguments().size() > most) {
+            throw Error(parser_.positionalArguments().at(most).toStdString(),
+                        Message::kTooManyOperands);
         }
         return true;
     }
@@ -75,7 +79,7 @@ class Parser {
   private:
     static std::string Required(const std::string& value, const std::string& name) {
         if (value.empty()) {
-            throw UsageError(name + " is missing");
+            throw Error(name, Message::kArgumentMissing);
         }
         return value;
     }
@@ -87,44 +91,51 @@ class Parser {
 void AddPackageOptions(Parser& parser) {
     parser
         .Option({"build"},
-                "Build number, which decides what is newer; INFO is made from it and the "
-                "next three. Without it the client has an INFO of its own.",
+                "Build number; the higher one is newer. INFO is made from it and the next three "
+                "options. Without it the client must have its own INFO.",
                 "N")
-        .Option({"major"}, "Major version, told in the log.", "TEXT")
-        .Option({"minor"}, "Minor version, likewise.", "TEXT")
-        .Option({"icon-overlay"}, "Version of the icon overlays, likewise.", "TEXT")
-        .Option({"level"}, "Compression from 1 (fast) to 19 (small); 9 by default.", "N");
+        .Option({"major"}, "Major version, for the log only.", "TEXT")
+        .Option({"minor"}, "Minor version, for the log only.", "TEXT")
+        .Option({"icon-overlay"}, "Icon overlay version, for the log only.", "TEXT")
+        .Option({"level"}, "Compression level, from 1 (fast) to 19 (small). Default: 9.", "N");
+}
+
+std::string PlainValue(const Parser& parser, const QString& name) {
+    std::string value = parser.Value(name);
+    if (!IsPlain(value)) {
+        throw Error("--" + name.toStdString(), Message::kBadVersion);
+    }
+    return value;
+}
+
+std::int64_t Number(const std::string& subject, const std::string& text, std::int64_t lowest,
+                    std::int64_t highest) {
+    const std::optional<std::int64_t> number = ParseNumber(text, lowest, highest);
+    if (!number) {
+        throw Error(subject, Message::kBadNumber,
+                    {text, std::to_string(lowest), std::to_string(highest)});
+    }
+    return *number;
 }
 
 std::optional<VersionInfo> ReadVersion(const Parser& parser) {
-    const VersionInfo version{parser.Value("major"), parser.Value("minor"), parser.Value("build"),
-                              parser.Value("icon-overlay")};
-    const std::string others =
-        version.major_version + version.minor_version + version.icon_overlay_version;
-    if (!IsPlain(others)) {
-        throw UsageError("a version has letters, digits and .+-_ only");
+    const VersionInfo version{PlainValue(parser, "major"), PlainValue(parser, "minor"),
+                              parser.Value("build"), PlainValue(parser, "icon-overlay")};
+    if (parser.IsSet("build")) {
+        Number("--build", version.build_version, 0, kHighestBuild);
+        return version;
     }
-    if (!parser.IsSet("build")) {
-        if (!others.empty()) {
-            throw UsageError("--build is missing");
-        }
-        return std::nullopt;
+    if (!(version.major_version + version.minor_version + version.icon_overlay_version).empty()) {
+        throw Error("--build", Message::kArgumentMissing);
     }
-    if (!IsBuildNumber(version.build_version)) {
-        throw UsageError("--build is no number from 0 to 2147483647: " + version.build_version);
-    }
-    return version;
+    return std::nullopt;
 }
 
 // https://reproducible-builds.org/specs/source-date-epoch/
 std::time_t SourceDateEpoch() {
-    const QByteArray text = qgetenv("SOURCE_DATE_EPOCH");
-    bool is_number = true;
-    const qlonglong seconds = text.isEmpty() ? 0 : text.toLongLong(&is_number);
-    if (!is_number || seconds < 0) {
-        throw UsageError("SOURCE_DATE_EPOCH is no number of seconds: " + text.toStdString());
-    }
-    return static_cast<std::time_t>(seconds);
+    const char* const name = "SOURCE_DATE_EPOCH";
+    const std::string text = qgetenv(name).toStdString();
+    return text.empty() ? 0 : Number(name, text, 0, std::numeric_limits<std::time_t>::max());
 }
 
 PackageOptions ReadPackageOptions(const Parser& parser) {
@@ -132,18 +143,16 @@ PackageOptions ReadPackageOptions(const Parser& parser) {
     options.version = ReadVersion(parser);
     options.time = SourceDateEpoch();
     if (parser.IsSet("level")) {
-        options.level = std::atoi(parser.Value("level").c_str());
-        if (options.level < ZstdFile::kFastest || options.level > ZstdFile::kSmallest) {
-            throw UsageError("--level is no number from 1 to 19: " + parser.Value("level"));
-        }
+        options.level = static_cast<int>(
+            Number("--level", parser.Value("level"), ZstdFile::kFastest, ZstdFile::kSmallest));
     }
     return options;
 }
 
 void Make(const QStringList& arguments) {
-    Parser parser("Packs a client's directory into a package.");
-    parser.Operand("CLIENT_DIR", "The tree of the private copy, with Contents/MacOS/quillmere-ui.")
-        .Option({"o", "output"}, "The package to be written.", "FILE");
+    Parser parser("Pack a client's directory into a package.");
+    parser.Operand("CLIENT_DIR", "Client's directory, with Contents/MacOS/quillmere-ui in it.")
+        .Option({"o", "output"}, "Package to write.", "PATH");
     AddPackageOptions(parser);
     if (!parser.Parse(arguments)) {
         return;
@@ -156,14 +165,14 @@ void Make(const QStringList& arguments) {
 
 void Bundle(const QStringList& arguments) {
     const QString data = QCoreApplication::applicationDirPath() + "/../lib/qpk/";
-    Parser parser("Assembles a bundle: the launcher, its plug-ins and a client as a package.");
-    parser.Option({"o", "output"}, "The bundle to be made or brought up to date.", "DIR.app")
-        .Option({"client"}, "The client's directory.", "DIR")
-        .Option({"launcher"}, "The launcher's executable; the one that came with this tool.", "EXE")
-        .Option({"icon"}, "The window's icon; the one that came with this tool.", "PNG")
-        .Option({"plugins"}, "Qt's plug-ins; those of this tool's Qt by default.", "DIR")
-        .Option({"copy-plugins"}, "Copy the plug-ins that are needed, do not link to them.")
-        .Option({"depfile"}, "Write what the bundle hangs on, as a rule for make.", "FILE");
+    Parser parser("Assemble a bundle of the launcher, its plug-ins and a client.");
+    parser.Option({"o", "output"}, "Bundle to create or update.", "PATH")
+        .Option({"client"}, "Client's directory.", "DIR")
+        .Option({"launcher"}, "Launcher executable. Default: the one installed with qpk.", "EXE")
+        .Option({"icon"}, "Window icon. Default: the one installed with qpk.", "PNG")
+        .Option({"plugins"}, "Directory of Qt's plug-ins. Default: that of qpk's own Qt.", "DIR")
+        .Option({"copy-plugins"}, "Copy the required plug-ins instead of linking to them.")
+        .Option({"depfile"}, "Write the bundle's dependencies as a make rule.", "FILE");
     AddPackageOptions(parser);
     if (!parser.Parse(arguments)) {
         return;
@@ -184,26 +193,32 @@ void Bundle(const QStringList& arguments) {
 }
 
 void Check(const QStringList& arguments) {
-    Parser parser("Tells whether a package would install, and could be removed again.");
-    parser.Operand("FILE", "The package; the bundle's own by default.")
-        .Option({"bundle"}, "The bundle that carries the package, to compare versions.", "DIR");
+    Parser parser("Check that a package can be installed and removed.");
+    parser.Operand("FILE", "Package. Default: the one in the bundle.")
+        .Option({"bundle"}, "Bundle of the package, to compare versions.", "DIR");
     if (!parser.Parse(arguments)) {
         return;
     }
     const std::string bundle = parser.Value("bundle");
     if (parser.Operand().empty() && bundle.empty()) {
-        throw UsageError("FILE or --bundle is missing");
+        throw Error("FILE or --bundle", Message::kArgumentMissing);
     }
     const std::string package =
         parser.Operand().empty() ? bundle + "/" + layout::kPackage : parser.Operand();
     const Findings findings = CheckPackage(package, bundle);
     if (!findings.empty()) {
-        throw Refused(findings);
+        throw Error(findings);
     }
-    Print(QByteArray::fromStdString(package + ": installs, and can be removed again\n"));
+    Print(QByteArray::fromStdString(package + ": can be installed and removed\n"));
 }
 
-// In the manner of ls(1); what a link leads to stands in parentheses.
+void RefuseDamage(const std::string& file, const PackageFacts& facts) {
+    if (!facts.damage.empty()) {
+        throw Error(file, Message::kDamaged, {std::to_string(facts.entries), facts.damage});
+    }
+}
+
+// Like ls(1); the target of a link is in parentheses.
 std::string Details(const Entry& entry) {
     const char type = !entry.hard_link.empty() ? 'h'
                       : S_ISDIR(entry.mode)    ? 'd'
@@ -218,9 +233,9 @@ std::string Details(const Entry& entry) {
 }
 
 void List(const QStringList& arguments) {
-    Parser parser("Lists the entries of a package.");
-    parser.Operand("FILE", "The package.")
-        .Option({"l", "long"}, "Type, mode and size as well, and where links lead to.");
+    Parser parser("List the entries of a package.");
+    parser.Operand("FILE", "Package.")
+        .Option({"l", "long"}, "Also print type, mode, size and the target of links.");
     if (!parser.Parse(arguments)) {
         return;
     }
@@ -233,19 +248,17 @@ void List(const QStringList& arguments) {
         }
         Print(QByteArray::fromStdString(line));
     });
-    if (!facts.damage.empty()) {
-        throw Refused({{file, "damaged: " + facts.damage}});
-    }
+    RefuseDamage(file, facts);
 }
 
 QJsonObject ToJson(const PackageFacts& facts) {
-    const VersionInfo version = ParseVersion(facts.info);
+    const VersionInfo version = ParseVersion(facts.info.value_or(""));
     const auto text = [](const std::string& value) { return QString::fromStdString(value); };
     QJsonArray filters;
     for (const std::string& filter : facts.filters) {
         filters.append(text(filter));
     }
-    return {{"form", text(facts.form)},
+    return {{"format", text(facts.format)},
             {"filters", filters},
             {"checksum", facts.has_checksum},
             {"entries", static_cast<qint64>(facts.entries)},
@@ -262,7 +275,7 @@ QJsonObject ToJson(const PackageFacts& facts) {
 QByteArray ToLines(const QJsonObject& facts) {
     QByteArray lines;
     for (const char* const key :
-         {"form", "filters", "checksum", "entries", "packed", "unpacked", "info_is_last",
+         {"format", "filters", "checksum", "entries", "packed", "unpacked", "info_is_last",
           "major_version", "minor_version", "build_version", "icon_overlay_version"}) {
         QStringList texts;
         const QJsonValue value = facts[key];
@@ -276,8 +289,8 @@ QByteArray ToLines(const QJsonObject& facts) {
 }
 
 void Info(const QStringList& arguments) {
-    Parser parser("Tells a package's form, sizes and version.");
-    parser.Operand("FILE", "The package.").Option({"json"}, "Print a JSON object.");
+    Parser parser("Print a package's format, sizes and version.");
+    parser.Operand("FILE", "Package.").Option({"json"}, "Print as a JSON object.");
     if (!parser.Parse(arguments)) {
         return;
     }
@@ -285,20 +298,18 @@ void Info(const QStringList& arguments) {
     const PackageFacts facts = ReadPackage(file, [](const Entry&) {});
     const QJsonObject json = ToJson(facts);
     Print(parser.IsSet("json") ? QJsonDocument(json).toJson() : ToLines(json));
-    if (!facts.damage.empty()) {
-        throw Refused({{file, "damaged: " + facts.damage}});
-    }
+    RefuseDamage(file, facts);
 }
 
 }  // namespace
 
 const std::vector<Command>& Commands() {
     static const std::vector<Command> commands{
-        {"make", "packs a client's directory into a package", Make},
-        {"check", "tells whether a package would install and could be removed", Check},
-        {"list", "lists the entries of a package", List},
-        {"info", "tells a package's form, sizes and version", Info},
-        {"bundle", "assembles a bundle of launcher and client", Bundle},
+        {"make", "Pack a client's directory into a package.", Make},
+        {"check", "Check that a package can be installed and removed.", Check},
+        {"list", "List the entries of a package.", List},
+        {"info", "Print a package's format, sizes and version.", Info},
+        {"bundle", "Assemble a bundle of the launcher, its plug-ins and a client.", Bundle},
     };
     return commands;
 }

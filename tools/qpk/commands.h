@@ -2,20 +2,13 @@
 #pragma once
 
 #include <QStringList>
-#include <stdexcept>
 #include <vector>
-
-// Arguments that do not fit the command: exit code 2.
-class UsageError : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
 
 struct Command {
     const char* name;
     const char* summary;
-    // Runs the command; `arguments` begin with the program and go on behind the command's name.
-    // Throws UsageError, Refused or Failure.
+    // Runs the command; `arguments` are the command's own after its name.
+    // Throws Error.
     void (*run)(const QStringList& arguments);
 };
 

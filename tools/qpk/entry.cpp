@@ -17,7 +17,3 @@ std::string Visible(const std::string& name) {
     }
     return text;
 }
-
-std::string ToString(const Finding& finding) {
-    return Visible((finding.entry.empty() ? "" : finding.entry + ": ") + finding.text);
-}

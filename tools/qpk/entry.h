@@ -19,16 +19,5 @@ struct Entry {
 
 using Entries = std::vector<Entry>;
 
-// A fault of a client or of a package, told to its maker.
-struct Finding {
-    std::string entry;  // the path at fault; "" for the whole
-    std::string text;   // what it is, and what would come of it
-};
-
-using Findings = std::vector<Finding>;
-
 // The name with its control characters made visible, for a terminal.
 std::string Visible(const std::string& name);
-
-// "entry: text", or the text alone.
-std::string ToString(const Finding& finding);

@@ -1,26 +1,29 @@
 // qpk: packages and bundles for the launcher.
 #include <QCoreApplication>
 #include <algorithm>
+#include <cerrno>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 #include "tools/qpk/commands.h"
-#include "tools/qpk/error.h"
+#include "tools/qpk/message.h"
 
 namespace {
 
-enum ExitCode { kDone = 0, kRefused = 1, kUsage = 2, kFailed = 3 };
-
 void PrintHelp() {
     std::printf(
-        "Usage: qpk COMMAND [OPTION]...\nPackages and bundles for the launcher.\n\nCommands:\n");
+        "Usage: qpk COMMAND [OPTION]...\nMake and check packages and bundles for the "
+        "launcher.\n\nCommands:\n");
     for (const Command& command : Commands()) {
         std::printf("  %-8s%s\n", command.name, command.summary);
     }
     std::printf(
-        "\n\"qpk COMMAND --help\" tells the options of a command, \"qpk --version\" the version.\n"
-        "Exit code: 0 done, 1 faults were found, 2 wrong arguments, 3 something failed.\n");
+        "\nRun \"qpk COMMAND --help\" for the options of a command, \"qpk --version\" for the "
+        "version.\n"
+        "Exit status: 0 success, 1 faults in a client or package, 2 wrong usage, 3 other "
+        "errors.\n");
 }
 
 const Command& Find(const QString& name) {
@@ -29,8 +32,8 @@ const Command& Find(const QString& name) {
         std::find_if(commands.begin(), commands.end(),
                      [&name](const Command& command) { return name == command.name; });
     if (found == commands.end()) {
-        throw UsageError(name.isEmpty() ? "a command is missing"
-                                        : "no such command: " + name.toStdString());
+        throw name.isEmpty() ? Error("COMMAND", Message::kArgumentMissing)
+                             : Error(name.toStdString(), Message::kUnknownCommand);
     }
     return *found;
 }
@@ -49,6 +52,14 @@ void Run(QStringList arguments) {
     }
 }
 
+// Result: the exit code.
+int Report(const Error& error) {
+    for (const Finding& finding : error.findings()) {
+        std::fprintf(stderr, "qpk: %s\n", finding.text().c_str());
+    }
+    return error.exit_code();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -59,19 +70,12 @@ int main(int argc, char** argv) {
     try {
         Run(QCoreApplication::arguments());
         if (std::fflush(stdout) != 0) {
-            throw Failure("cannot write to standard output");
+            throw Error("standard output", Message::kCannotWrite, {std::strerror(errno)});
         }
-        return kDone;
-    } catch (const Refused& refused) {
-        for (const Finding& finding : refused.findings()) {
-            std::fprintf(stderr, "qpk: %s\n", ToString(finding).c_str());
-        }
-        return kRefused;
-    } catch (const UsageError& error) {
-        std::fprintf(stderr, "qpk: %s; see qpk --help\n", error.what());
-        return kUsage;
+        return 0;
+    } catch (const Error& error) {
+        return Report(error);
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "qpk: %s\n", error.what());
-        return kFailed;
+        return Report(Error("qpk", Message::kInternal, {error.what()}));
     }
 }

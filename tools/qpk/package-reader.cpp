@@ -1,17 +1,22 @@
 // Reading of packages, by whatever tool they were made.
 #include "tools/qpk/package-reader.h"
 
-#include <QFile>
+#include <QByteArray>
+#include <QFileInfo>
+#include <algorithm>
+#include <new>
 
-#include "tools/qpk/error.h"
-#include "tools/qpk/layout.h"
+#include "install-layout.h"
+#include "tools/qpk/message.h"
 #include "tools/qpk/progress.h"
+#include "tools/qpk/read-file.h"
 #include "ui-client/launcher/archive-handles.h"
 
 namespace {
 
 constexpr std::size_t kBlockSize = 1 << 17;
-constexpr std::int64_t kLargestInfo = 1 << 16;
+constexpr std::size_t kLargestInfo = 1 << 16;
+constexpr std::int64_t kHead = 16;
 
 const char* OrEmpty(const char* text) {
     return text == nullptr ? "" : text;
@@ -41,13 +46,10 @@ Entry Describe(archive_entry* header) {
     return entry;
 }
 
-// Whether the file's outermost form has a checksum over the content. The flags lie where RFC 8878
-// (zstd), the .xz and the LZ4 frame formats have them; gzip, bzip2, lzip, zip and 7-Zip always have
-// one, and a plain tar has one of its headers only.
-bool HasChecksum(const std::string& path) {
-    QFile file(QString::fromStdString(path));
-    file.open(QIODevice::ReadOnly);
-    const QByteArray head = file.read(16);
+// Whether the outermost format, whose first bytes are given, has a checksum over the content. The
+// flags are where RFC 8878 (zstd), the .xz and the LZ4 frame formats have them; gzip, bzip2, lzip,
+// zip and 7-Zip always have one, and a plain tar has one of its headers only.
+bool HasChecksum(const QByteArray& head) {
     const auto bits = [&head](int at) { return at < head.size() ? head.at(at) : 0; };
     if (head.startsWith("\x28\xB5\x2F\xFD")) {
         return (bits(4) & 0x04) != 0;
@@ -70,28 +72,33 @@ bool HasChecksum(const std::string& path) {
 
 class PackageReader {
   public:
-    explicit PackageReader(const std::string& path) : path_(path), reader_(archive_read_new()) {
-        if (QFile file(QString::fromStdString(path)); !file.open(QIODevice::ReadOnly)) {
-            throw Failure(path + ": " + file.errorString().toStdString());
+    explicit PackageReader(const std::string& path)
+        : path_(path), head_(QByteArray::fromStdString(ReadFile(path, kHead))) {
+        int opened = ARCHIVE_FATAL;
+        reader_ = OpenArchive(path.c_str(), kBlockSize, opened);
+        if (!reader_) {
+            throw std::bad_alloc();
         }
-        archive_read_support_filter_all(reader_.get());
-        archive_read_support_format_all(reader_.get());
-        if (archive_read_open_filename(reader_.get(), path.c_str(), kBlockSize) != ARCHIVE_OK) {
+        if (opened != ARCHIVE_OK) {
             Refuse(ErrorText(reader_.get()));
         }
     }
 
     PackageFacts Read(const std::function<void(const Entry&)>& visit) {
-        facts_.packed = QFile(QString::fromStdString(path_)).size();
-        facts_.has_checksum = HasChecksum(path_);
+        facts_.packed = QFileInfo(QString::fromStdString(path_)).size();
+        facts_.has_checksum = HasChecksum(head_);
         Progress progress("reading", facts_.packed);
         for (archive_entry* header = nullptr; Next(&header);) {
             const Entry entry = Describe(header);
+            if (entry.size < 0) {
+                facts_.damage = "Negative size of " + entry.path;
+                break;
+            }
             visit(entry);
             ++facts_.entries;
             facts_.unpacked += entry.size;
             facts_.info_is_last = entry.path == layout::kInfo;
-            if (!Skip(entry)) {
+            if (!Skip()) {
                 break;
             }
             progress.MoveTo(archive_filter_bytes(reader_.get(), -1));
@@ -105,26 +112,27 @@ class PackageReader {
 
   private:
     [[noreturn]] void Refuse(const std::string& why) {
-        throw Refused({{path_, "cannot be read, and would never install: " + why}});
+        throw Error(path_, Message::kNotAnArchive, {why});
     }
 
     bool Next(archive_entry** header) {
-        return Holds(archive_read_next_header(reader_.get(), header));
+        return IsRead(archive_read_next_header(reader_.get(), header));
     }
 
-    // Goes over the entry's data; those of INFO are kept.
-    bool Skip(const Entry& entry) {
-        if (!facts_.info_is_last || entry.size > kLargestInfo) {
-            return Holds(archive_read_data_skip(reader_.get()));
+    // Skips the entry's data, but keeps the beginning of INFO.
+    bool Skip() {
+        if (!facts_.info_is_last) {
+            return IsRead(archive_read_data_skip(reader_.get()));
         }
-        facts_.info.resize(static_cast<std::size_t>(entry.size));
-        const la_ssize_t size =
-            archive_read_data(reader_.get(), &facts_.info[0], facts_.info.size());
-        return Holds(size < 0 ? static_cast<int>(size) : ARCHIVE_OK);
+        std::string info(kLargestInfo, 0);
+        const la_ssize_t size = archive_read_data(reader_.get(), &info[0], info.size());
+        info.resize(static_cast<std::size_t>(std::max<la_ssize_t>(size, 0)));
+        facts_.info = info;
+        return IsRead(size < 0 ? static_cast<int>(size) : ARCHIVE_OK);
     }
 
     // To the launcher a warning is a failure too.
-    bool Holds(int result) {
+    bool IsRead(int result) {
         if (result != ARCHIVE_OK && result != ARCHIVE_EOF) {
             facts_.damage = ErrorText(reader_.get());
         }
@@ -132,7 +140,7 @@ class PackageReader {
     }
 
     void Name() {
-        facts_.form = OrEmpty(archive_format_name(reader_.get()));
+        facts_.format = OrEmpty(archive_format_name(reader_.get()));
         // The last one is libarchive's own, of no filter at all.
         for (int i = archive_filter_count(reader_.get()) - 2; i >= 0; --i) {
             facts_.filters.insert(facts_.filters.begin(),
@@ -141,7 +149,8 @@ class PackageReader {
     }
 
     const std::string path_;
-    const ArchiveReader reader_;
+    const QByteArray head_;
+    ArchiveReader reader_;
     PackageFacts facts_;
 };
 

@@ -4,25 +4,19 @@
 #include <QFile>
 #include <algorithm>
 #include <cerrno>
+#include <exception>
 #include <vector>
 
+#include "install-layout.h"
 #include "tools/qpk/client-tree.h"
-#include "tools/qpk/error.h"
-#include "tools/qpk/layout.h"
+#include "tools/qpk/message.h"
 #include "tools/qpk/progress.h"
+#include "tools/qpk/read-file.h"
 #include "tools/qpk/rules.h"
 #include "tools/qpk/zstd-file.h"
 #include "ui-client/launcher/archive-handles.h"
 
 namespace {
-
-std::string ReadAll(const std::string& path) {
-    QFile file(QString::fromStdString(path));
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw Failure(path + ": " + file.errorString().toStdString());
-    }
-    return file.readAll().toStdString();
-}
 
 // libarchive makes the tar and ZstdFile the rest.
 class PackageWriter {
@@ -53,19 +47,19 @@ class PackageWriter {
         const std::string path = options_.client + "/" + entry.path;
         QFile source(QString::fromStdString(path));
         if (!source.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-            throw Failure(path + ": " + source.errorString().toStdString());
+            throw Error(path, Message::kCannotRead, {source.errorString().toStdString()});
         }
         AddHeader(entry);
         std::int64_t left = entry.size;
         for (qint64 size = 0; (size = source.read(buffer_.data(), kBufferSize)) != 0;
              left -= size) {
             if (size < 0) {
-                throw Failure(path + ": " + source.errorString().toStdString());
+                throw Error(path, Message::kCannotRead, {source.errorString().toStdString()});
             }
             AddData(path, buffer_.data(), size);
         }
         if (left != 0) {
-            throw Failure(path + ": changed while it was read");
+            throw Error(path, Message::kChanged);
         }
     }
 
@@ -77,22 +71,30 @@ class PackageWriter {
   private:
     static constexpr qint64 kBufferSize = 1 << 17;
 
-    // Exceptions must not pass through libarchive: what goes wrong is kept for Check.
+    // Exceptions must not pass through libarchive, so Fail throws them again.
     static la_ssize_t Write(archive* writer, void* self, const void* data, std::size_t size) {
         const auto package = static_cast<PackageWriter*>(self);
         try {
             package->file_.Write(data, size);
             return static_cast<la_ssize_t>(size);
-        } catch (const Failure& failure) {
-            archive_set_error(writer, EIO, "%s", failure.what());
+        } catch (...) {
+            package->failure_ = std::current_exception();
+            archive_set_error(writer, EIO, "Write failed");
             return -1;
         }
     }
 
     void Check(int result) {
         if (result != ARCHIVE_OK) {
-            throw Failure(ErrorText(writer_.get()));
+            Fail();
         }
+    }
+
+    [[noreturn]] void Fail() {
+        if (failure_) {
+            std::rethrow_exception(failure_);
+        }
+        throw Error(options_.package, Message::kCannotWrite, {ErrorText(writer_.get())});
     }
 
     void AddHeader(const Entry& entry) {
@@ -111,10 +113,10 @@ class PackageWriter {
         const la_ssize_t written =
             archive_write_data(writer_.get(), data, static_cast<std::size_t>(size));
         if (written < 0) {
-            throw Failure(ErrorText(writer_.get()));
+            Fail();
         }
         if (written != size) {  // more than the header says
-            throw Failure(path + ": changed while it was read");
+            throw Error(path, Message::kChanged);
         }
         progress_.Advance(size);
     }
@@ -123,6 +125,7 @@ class PackageWriter {
     ZstdFile file_;
     Progress progress_;
     const ArchiveWriter writer_;
+    std::exception_ptr failure_;  // of ZstdFile
     std::vector<char> buffer_ = std::vector<char>(kBufferSize);
 };
 
@@ -130,15 +133,14 @@ bool IsInfo(const Entry& entry) {
     return entry.path == layout::kInfo;
 }
 
-// The content of INFO, and `entries` with an entry for it at the end. What is wrong goes to
-// `findings`.
+// Moves INFO to the end of `entries` and adds its faults to `findings`. Result: its content.
 std::string TakeInfo(const PackageOptions& options, Entries& entries, Findings& findings) {
     const auto own = std::find_if(entries.begin(), entries.end(), IsInfo);
     if (!options.version && own == entries.end()) {
         return "";
     }
     std::string text =
-        options.version ? ToText(*options.version) : ReadAll(options.client + "/" + layout::kInfo);
+        options.version ? ToText(*options.version) : ReadFile(options.client + "/" + layout::kInfo);
     const Findings faults = FaultsOf(ParseVersion(text));
     findings.insert(findings.end(), faults.begin(), faults.end());
     Entry info;
@@ -160,7 +162,7 @@ std::string WritePackage(const PackageOptions& options) {
     Findings findings = FaultsOf(entries);
     findings.insert(findings.end(), version_faults.begin(), version_faults.end());
     if (!findings.empty()) {
-        throw Refused(findings);
+        throw Error(findings);
     }
     std::int64_t total = 0;
     for (const Entry& entry : entries) {

@@ -16,9 +16,9 @@ struct PackageOptions {
     std::time_t time = 0;  // of all entries
 };
 
-// Packs a client into a pax tar compressed by zstd. Its entries stand in path order but for INFO,
-// which is the last: a copy that was cut short has no version and is replaced at the next start.
-// The same input gives the same bytes. Result: the content of INFO. Throws Refused with all faults
-// of the client, before anything is written, or Failure; the package appears under its name when it
-// is whole.
+// Packs a client into a pax tar compressed by zstd. The entries are in path order, but INFO is the
+// last: a copy that was cut short has no version and is replaced at the next start.
+// The same input gives the same bytes. Result: the content of INFO. Throws Error, with all
+// faults of the client before anything is written; the file appears under its name when it is
+// whole.
 std::string WritePackage(const PackageOptions& options);

@@ -9,13 +9,14 @@
 #include <set>
 #include <sstream>
 
-#include "tools/qpk/layout.h"
+#include "install-layout.h"
 #include "tools/qpk/links.h"
+#include "tools/qpk/message.h"
 #include "ustring/ustring.h"
 
 namespace {
 
-constexpr std::size_t kLongestName = 255;  // NAME_MAX of every file system in use
+constexpr std::size_t kLongestName = 255;  // NAME_MAX; kTooLong has both limits
 // PATH_MAX is 1024 on Mac OS X; the rest is for <home>/.Quillmere/Quillmere.app_tmp9/.
 constexpr std::size_t kLongestPath = 900;
 constexpr std::size_t kLongestLinkText = 1023;  // what the launcher's file layer reads
@@ -41,70 +42,63 @@ class Rules {
         }
         Executable();
         if (links_.Find(layout::kInfo) == nullptr) {
-            Add(layout::kInfo, "is missing: every start of the launcher would be an upgrade");
+            Add(layout::kInfo, Message::kInfoMissing);
         }
         return std::move(findings_);
     }
 
   private:
-    void Add(const std::string& path, const std::string& text) {
-        findings_.push_back({path.empty() ? "." : path, text});
+    void Add(const std::string& path, Message message,
+             std::initializer_list<std::string> values = {}) {
+        findings_.emplace_back(path.empty() ? "." : path, message, values);
     }
 
     void Name(const Entry& entry) {
         const std::vector<std::string> components = Components(entry.path);
         if (!entry.path.empty() && entry.path[0] == '/') {
-            Add(entry.path, "absolute path: would be installed elsewhere than it says");
+            Add(entry.path, Message::kAbsolutePath);
         }
         if (std::find(components.begin(), components.end(), "..") != components.end()) {
-            Add(entry.path, "has \"..\" in its path: would never install");
+            Add(entry.path, Message::kParentInPath);
         }
         if (!ustring::is_valid(entry.path)) {
-            Add(entry.path, "name is not UTF-8: no upgrade could remove the installed copy");
+            Add(entry.path, Message::kNotUtf8);
         }
         const bool long_name =
             std::any_of(components.begin(), components.end(),
                         [](const std::string& name) { return name.size() > kLongestName; });
         if (long_name || entry.path.size() > kLongestPath) {
-            Add(entry.path, "name is longer than " + std::to_string(kLongestName) +
-                                " bytes or path longer than " + std::to_string(kLongestPath) +
-                                ": would not install under every home");
+            Add(entry.path, Message::kTooLong);
         }
     }
 
     void Kind(const Entry& entry) {
         if (!entry.hard_link.empty()) {
-            Add(entry.path, "hard link to " + entry.hard_link +
-                                ": would never install; make it a copy or a symbolic link");
+            Add(entry.path, Message::kHardLink, {entry.hard_link});
         } else if (S_ISLNK(entry.mode)) {
             Link(entry);
         } else if (S_ISDIR(entry.mode)) {
             if ((entry.mode & S_IRWXU) != S_IRWXU) {
-                Add(entry.path,
-                    "directory that its owner cannot read, write and search: every upgrade would "
-                    "leave its old copy behind, and after ten none is possible");
+                Add(entry.path, Message::kDirectoryMode);
             }
         } else if (!S_ISREG(entry.mode)) {
-            Add(entry.path, "is no file, directory or symbolic link: would not install");
+            Add(entry.path, Message::kSpecialFile);
         } else if ((entry.mode & (S_ISUID | S_ISGID)) != 0) {
-            Add(entry.path, "set-user-id or set-group-id bit: would be lost when it is installed");
+            Add(entry.path, Message::kSetId);
         }
     }
 
     void Link(const Entry& entry) {
         if (entry.link_text.empty() || entry.link_text.size() > kLongestLinkText) {
-            Add(entry.path, "link text is empty or longer than " +
-                                std::to_string(kLongestLinkText) + " bytes: would not install");
+            Add(entry.path, Message::kLinkText);
             return;
         }
         switch (links_.Follow(entry).outcome) {
             case Links::kLeaves:
-                Add(entry.path, "link to " + entry.link_text +
-                                    " leaves the client: would lead to whatever a user has there");
+                Add(entry.path, Message::kLinkLeaves, {entry.link_text});
                 break;
             case Links::kCircle:
-                Add(entry.path,
-                    "link to " + entry.link_text + " goes in a circle: would lead nowhere");
+                Add(entry.path, Message::kLinkLoop, {entry.link_text});
                 break;
             case Links::kInside:
                 break;
@@ -116,7 +110,7 @@ class Rules {
     // their own count as well.
     void Collision(const std::string& path) {
         if (!entries_seen_.insert(path).second) {
-            Add(path, "comes twice: the later one would replace the former");
+            Add(path, Message::kTwice);
         }
         for (std::size_t end = path.find('/');; end = path.find('/', end + 1)) {
             if (seen_.insert(path.substr(0, end)).second) {
@@ -134,9 +128,7 @@ class Rules {
         const auto inserted =
             names_.emplace(path.substr(0, name) + Folded(path.substr(name)), path);
         if (!inserted.second) {
-            Add(path, "differs from " + inserted.first->second +
-                          " only by case or Unicode normal form: where these do not count, one "
-                          "would replace the other");
+            Add(path, Message::kCollision, {inserted.first->second});
         }
     }
 
@@ -154,10 +146,9 @@ class Rules {
         const Entry* const entry =
             target.outcome == Links::kInside ? links_.Find(target.path) : nullptr;
         if (entry == nullptr) {
-            Add(layout::kExecutable,
-                "is missing: every start would install the copy anew, and open nothing");
+            Add(layout::kExecutable, Message::kExecutableMissing);
         } else if (!S_ISREG(entry->mode) || (entry->mode & S_IXUSR) == 0) {
-            Add(layout::kExecutable, "is no executable file: would be installed and never open");
+            Add(layout::kExecutable, Message::kNotExecutable);
         }
     }
 

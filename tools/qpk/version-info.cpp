@@ -5,8 +5,8 @@
 #include <QTemporaryFile>
 #include <algorithm>
 
-#include "tools/qpk/error.h"
-#include "tools/qpk/layout.h"
+#include "install-layout.h"
+#include "tools/qpk/message.h"
 
 std::string ToText(const VersionInfo& version) {
     return "[Version]\nmajor_version=" + version.major_version +
@@ -18,7 +18,8 @@ VersionInfo ParseVersion(const std::string& text) {
     QTemporaryFile file;
     if (!file.open() || file.write(text.data(), static_cast<qint64>(text.size())) < 0 ||
         !file.flush()) {
-        throw Failure("no temporary file: " + file.errorString().toStdString());
+        throw Error("temporary file", Message::kNoTemporaryFile,
+                    {file.errorString().toStdString()});
     }
     QSettings settings(file.fileName(), QSettings::IniFormat);
     settings.beginGroup("Version");
@@ -36,22 +37,25 @@ bool IsPlain(const std::string& value) {
     });
 }
 
-bool IsBuildNumber(const std::string& value) {
+std::optional<std::int64_t> ParseNumber(const std::string& text, std::int64_t lowest,
+                                        std::int64_t highest) {
+    const bool has_digits_only =
+        std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
     bool is_number = false;
-    QString::fromStdString(value).toInt(&is_number);
-    return is_number &&
-           std::all_of(value.begin(), value.end(), [](char c) { return c >= '0' && c <= '9'; });
+    const qint64 number = QString::fromStdString(text).toLongLong(&is_number);
+    if (!has_digits_only || !is_number || number < lowest || number > highest) {
+        return std::nullopt;
+    }
+    return number;
 }
 
 Findings FaultsOf(const VersionInfo& version) {
     const std::string& build = version.build_version;
     if (build.empty()) {
-        return {{layout::kInfo, "has no build_version: every start would be an upgrade"}};
+        return {{layout::kInfo, Message::kBuildMissing}};
     }
-    if (!IsBuildNumber(build)) {
-        return {{layout::kInfo, "build_version \"" + build +
-                                    "\" is no number from 0 to 2147483647: the launcher would "
-                                    "compare something else"}};
+    if (!ParseNumber(build, 0, kHighestBuild)) {
+        return {{layout::kInfo, Message::kBadBuild, {build}}};
     }
     return {};
 }

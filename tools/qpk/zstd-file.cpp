@@ -5,7 +5,7 @@
 #include <QThread>
 #include <algorithm>
 
-#include "tools/qpk/error.h"
+#include "tools/qpk/message.h"
 
 ZstdFile::ZstdFile(const std::string& path, int level)
     : file_(QString::fromStdString(path)),
@@ -14,7 +14,7 @@ ZstdFile::ZstdFile(const std::string& path, int level)
     // A device would be replaced.
     const QFileInfo former(file_.fileName());
     if (former.exists() && !former.isFile()) {
-        Fail("is no regular file");
+        throw Error(path, Message::kNotRegular);
     }
     if (!file_.open(QIODevice::WriteOnly)) {
         Fail(file_.errorString().toStdString());
@@ -48,7 +48,7 @@ void ZstdFile::Compress(const void* data, std::size_t size, ZSTD_EndDirective di
     }
 }
 
-// On a disk that becomes full the first write does less than it should, and the next tells why.
+// On a disk that becomes full the first write does less than it should, and the next one says why.
 void ZstdFile::WriteOut(qint64 size) {
     for (qint64 at = 0, written = 0; at < size; at += written) {
         written = file_.write(buffer_.data() + at, size - at);
@@ -59,5 +59,5 @@ void ZstdFile::WriteOut(qint64 size) {
 }
 
 void ZstdFile::Fail(const std::string& why) const {
-    throw Failure(file_.fileName().toStdString() + ": " + why);
+    throw Error(file_.fileName().toStdString(), Message::kCannotWrite, {why});
 }

@@ -9,10 +9,12 @@
 #include <string>
 #include <vector>
 
+#include "free-by.h"
+
 // Writes one zstd frame with a checksum of its content, which libarchive's own filter does not
 // write: damage in data that do not shrink would go unseen. The file appears under its name with
 // Commit, whole; until then a former one stays; what is no regular file is refused. The bytes are
-// the same for any number of processors. All operations throw Failure.
+// the same for any number of processors. All operations throw Error.
 class ZstdFile {
   public:
     ZstdFile(const std::string& path, int level);
@@ -28,15 +30,11 @@ class ZstdFile {
     // own, would make a package of 300 MB smaller by 1 %.
     static constexpr int kWindowLog = 21;
 
-    struct ContextFreer {
-        void operator()(ZSTD_CCtx* context) const { ZSTD_freeCCtx(context); }
-    };
-
     void Compress(const void* data, std::size_t size, ZSTD_EndDirective directive);
     void WriteOut(qint64 size);
     [[noreturn]] void Fail(const std::string& why) const;
 
     QSaveFile file_;
-    const std::unique_ptr<ZSTD_CCtx, ContextFreer> context_;
+    const std::unique_ptr<ZSTD_CCtx, FreeBy<ZSTD_freeCCtx>> context_;
     std::vector<char> buffer_;
 };

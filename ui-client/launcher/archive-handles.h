@@ -4,22 +4,26 @@
 #include <archive.h>
 #include <archive_entry.h>
 
+#include <cstddef>
 #include <memory>
 
-struct ReaderFreer {
-    void operator()(archive* reader) const { archive_read_free(reader); }
-};
-using ArchiveReader = std::unique_ptr<archive, ReaderFreer>;
+#include "free-by.h"
 
-struct WriterFreer {
-    void operator()(archive* writer) const { archive_write_free(writer); }
-};
-using ArchiveWriter = std::unique_ptr<archive, WriterFreer>;
+using ArchiveReader = std::unique_ptr<archive, FreeBy<archive_read_free>>;
+using ArchiveWriter = std::unique_ptr<archive, FreeBy<archive_write_free>>;
+using ArchiveEntry = std::unique_ptr<archive_entry, FreeBy<archive_entry_free>>;
 
-struct EntryFreer {
-    void operator()(archive_entry* entry) const { archive_entry_free(entry); }
-};
-using ArchiveEntry = std::unique_ptr<archive_entry, EntryFreer>;
+// Opens a file that is read in blocks of `block` bytes, in any format and with any filter. Result:
+// the reader, and in `opened` what archive_read_open_filename returned; null if memory runs out.
+inline ArchiveReader OpenArchive(const char* path, std::size_t block, int& opened) {
+    ArchiveReader reader(archive_read_new());
+    if (reader) {
+        archive_read_support_filter_all(reader.get());
+        archive_read_support_format_all(reader.get());
+        opened = archive_read_open_filename(reader.get(), path, block);
+    }
+    return reader;
+}
 
 // Why the last call on `handle` failed, where libarchive knows. The text is the handle's.
 inline const char* ErrorText(archive* handle) {

@@ -26,10 +26,6 @@ const ustring kLogComponent("extractor_debug");
 constexpr int kWriteOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 
-int Open(archive* reader, const ustring& path) {
-    return archive_read_open_filename(reader, path.c_str(), kBlockSize);
-}
-
 // A failed extraction is told by the side that failed: damaged data are known to the reader alone.
 const char* ErrorText(archive* writer, archive* reader) {
     return archive_error_string(writer) == nullptr ? ErrorText(reader) : ErrorText(writer);
@@ -37,14 +33,13 @@ const char* ErrorText(archive* writer, archive* reader) {
 
 // Opens the archive for a look through its headers. Null on failure, which is logged.
 ArchiveReader OpenToLook(const ustring& path) {
-    ArchiveReader reader(archive_read_new());
+    int opened = ARCHIVE_FATAL;
+    ArchiveReader reader = OpenArchive(path.c_str(), kBlockSize, opened);
     if (!reader) {
         Logger::LogMsg(LOG_LINE(ERROR, "Allocate archive failed\n"));
         return nullptr;
     }
-    archive_read_support_filter_all(reader.get());
-    archive_read_support_format_all(reader.get());
-    if (Open(reader.get(), path) != ARCHIVE_OK) {
+    if (opened != ARCHIVE_OK) {
         Logger::LogMsg(LOG_LINE(ERROR, "archive_read_open_filename failed: '%s'\n"),
                        ErrorText(reader.get()));
         return nullptr;
@@ -96,20 +91,16 @@ int Extractor::Extract() {
         Logger::LogMsg(LOG_LINE(ERROR, "Failed to calculate total file numbers, ret: %d\n"), total);
         return -1;
     }
-    // The writer is declared first: the reader is to be freed before it.
-    ArchiveWriter writer;
-    const ArchiveReader reader(archive_read_new());
-    if (reader) {
-        writer.reset(archive_write_disk_new());
-    }
+    // The reader must be freed before the writer.
+    const ArchiveWriter writer(archive_write_disk_new());
+    int opened = ARCHIVE_FATAL;
+    const ArchiveReader reader = OpenArchive(m_source.c_str(), kBlockSize, opened);
     if (!reader || !writer) {
         Logger::LogMsg(LOG_LINE(ERROR, "Allocate extractor failed\n"));
         return -1;
     }
     archive_write_disk_set_options(writer.get(), kWriteOptions);
-    archive_read_support_filter_all(reader.get());
-    archive_read_support_format_all(reader.get());
-    if (Open(reader.get(), m_source) != ARCHIVE_OK) {
+    if (opened != ARCHIVE_OK) {
         Logger::LogMsg(LOG_LINE(ERROR, "Failed to read file '%s' ('%s')\n"), m_source.c_str(),
                        ErrorText(reader.get()));
         return -1;

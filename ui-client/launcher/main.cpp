@@ -13,6 +13,7 @@
 #include <memory>
 #include <string>
 
+#include "install-layout.h"
 #include "log.h"
 #include "platform/desktop/gui-environment.h"
 #include "platform/desktop/qtsingleapplication.h"
@@ -54,10 +55,11 @@ QString SetLibraryPath(const char* program) {
 
 // One level file for the bundle and all who run it, one log for each user.
 void SetUpLog() {
-    const ustring level_file = Service::GetRootQuillmereInstallPath() + "/log/launcher.debug";
-    const ustring directory = Service::GetUserQuillmereInstallPath() + "/log";
-    if (QDir(QString()).mkpath(ToQString(directory))) {
-        Logger::Initialize(Logger::TYPE_FILE, directory + "/launcher.log", level_file, kRotations);
+    const ustring user_directory = Service::GetUserQuillmereInstallPath() + "/";
+    if (QDir(QString()).mkpath(ToQString(user_directory + layout::kLogDirectory))) {
+        Logger::Initialize(Logger::TYPE_FILE, user_directory + layout::kLogFile,
+                           Service::GetRootQuillmereInstallPath() + "/" + layout::kLevelFile,
+                           kRotations);
     }
 }
 
@@ -104,7 +106,7 @@ std::string Program() {
 
 // The lock on the user's directory, which all bundles share.
 std::string InstallLockPath() {
-    return (Service::GetUserQuillmereInstallPath() + "/launcher.lock").c_str();
+    return (Service::GetUserQuillmereInstallPath() + "/" + layout::kLock).c_str();
 }
 
 // Takes the lock if it is free. It also finds the instance of this bundle that could not have the

@@ -12,6 +12,7 @@
 #include <tuple>
 
 #include "file/file-op.h"
+#include "install-layout.h"
 #include "log.h"
 #include "platform/files/flush.h"
 #include "ui-client/launcher/extractor.h"
@@ -21,20 +22,23 @@
 
 namespace {
 
-constexpr int kBackups = 10;
-constexpr char kInfo[] = "/Contents/Resources/INFO";
 const ustring kLogComponent("service_debug");
 
+ustring Below(const ustring& directory, const char* path) {
+    return directory + "/" + path;
+}
+
 ustring GetAppBackupDir(const ustring& app, int index) {
+    const ustring first = app + layout::kBackupSuffix;
     if (index == 0) {
-        return app + "_tmp";
+        return first;
     }
     char postfix[8];
     if (std::snprintf(postfix, sizeof postfix, "%d", index) < 0) {
         Logger::LogMsg(LOG_LINE(ERROR, "snprintf failed (continuing without postfix)"));
-        return app + "_tmp";
+        return first;
     }
-    return app + "_tmp" + postfix;
+    return first + postfix;
 }
 
 void LoadKey(const QSettings& info, const char* key, ustring& field) {
@@ -83,23 +87,23 @@ ustring Service::GetRootQuillmereInstallPath() {
 }
 
 ustring Service::GetRootQuillmereResourceInstallPath() {
-    return GetRootQuillmereInstallPath() + "/Contents/Resources";
+    return Below(GetRootQuillmereInstallPath(), layout::kResources);
 }
 
 ustring Service::GetUserQuillmereInstallPath() {
-    return GetUserInstallPath() + "/" + ".Quillmere";
+    return Below(GetUserInstallPath(), layout::kUserDirectory);
 }
 
 ustring Service::GetUserQuillmereAppInstallPath() {
-    return GetUserQuillmereInstallPath() + "/" + "Quillmere.app";
+    return Below(GetUserQuillmereInstallPath(), layout::kApp);
 }
 
 ustring Service::GetUserQuillmereDataInstallPath() {
-    return GetUserQuillmereInstallPath() + "/" + "data";
+    return Below(GetUserQuillmereInstallPath(), layout::kData);
 }
 
 void Service::LoadSourceVersion() {
-    const ustring path = GetUserQuillmereAppInstallPath() + kInfo;
+    const ustring path = Below(GetUserQuillmereAppInstallPath(), layout::kInfo);
     if (!IsFileExist(path, false)) {
         Logger::LogMsg(LOG_LINE(INFO, "source does not exist\n"));
         return;
@@ -112,7 +116,7 @@ void Service::LoadSourceVersion() {
 }
 
 void Service::LoadTargetVersion() {
-    LoadVersion(GetRootQuillmereResourceInstallPath() + "/" + "INFO", target_version);
+    LoadVersion(Below(GetRootQuillmereInstallPath(), layout::kInfo), target_version);
     Logger::LogMsg(LOG_LINE(INFO, "target_version = (%s, %s, %s, %s)\n"),
                    target_version.major_version.c_str(), target_version.minor_version.c_str(),
                    target_version.build_version.c_str(),
@@ -130,7 +134,7 @@ bool IsAbsent(const ustring& path) {
 
 // Moves `app` to the first backup name that takes it. Result: 0, with the name and its index; -1.
 int BackUp(const ustring& app, ustring& backup, int& index) {
-    for (index = 0; index < kBackups; ++index) {
+    for (index = 0; index < layout::kBackups; ++index) {
         backup = GetAppBackupDir(app, index);
         if (FSRename(app, backup, false) == 0) {
             return 0;
@@ -146,7 +150,7 @@ int BackUp(const ustring& app, ustring& backup, int& index) {
 
 // Removes the version first: a copy that is removed only in part must not count as a whole one.
 void RemoveCopy(const ustring& copy) {
-    FSRemove(copy + kInfo, false);
+    FSRemove(Below(copy, layout::kInfo), false);
     FSRemove(copy, false);
 }
 
@@ -160,7 +164,7 @@ enum class Version { kPresent, kMissing, kUnknown };
 
 // Whether a copy has a version. A version that cannot be read is neither present nor missing.
 Version VersionOf(const ustring& copy) {
-    const ustring path = copy + kInfo;
+    const ustring path = Below(copy, layout::kInfo);
     if (IsAbsent(path)) {
         return Version::kMissing;
     }
@@ -185,7 +189,7 @@ bool IsNewer(const struct stat& one, const struct stat& other) {
 ustring NewestBackup(const ustring& app) {
     ustring newest;
     struct stat newest_status = {};
-    for (int index = 0; index < kBackups; ++index) {
+    for (int index = 0; index < layout::kBackups; ++index) {
         const ustring backup = GetAppBackupDir(app, index);
         struct stat status;
         if (VersionOf(backup) == Version::kPresent && lstat(backup.c_str(), &status) == 0 &&
@@ -234,7 +238,7 @@ int Service::PrepareUserEnv() {
 }
 
 int Service::ExtractPackage() {
-    const ustring package = GetRootQuillmereResourceInstallPath() + "/package/quillmere.qpk";
+    const ustring package = Below(GetRootQuillmereInstallPath(), layout::kPackage);
     const ustring destination = GetUserQuillmereAppInstallPath();
     if (FSMKDir(destination, true) < 0) {
         Logger::LogMsg(LOG_LINE(ERROR, "failed to create folder: '%s'\n"), destination.c_str());
@@ -249,7 +253,7 @@ int Service::ExtractPackage() {
 }
 
 void Service::RemoveAgedFolders() {
-    const ustring path = GetUserQuillmereInstallPath() + "/app";
+    const ustring path = Below(GetUserQuillmereInstallPath(), layout::kAgedApp);
     Logger::LogMsg(LOG_LINE(INFO, "removing aged app folder %s\n"), path.c_str());
     FSRemove(path, false);
 }

@@ -1,4 +1,4 @@
-// The upgrade of the per-user copy, and the only code that knows where it and the bundle lie.
+// The upgrade of the per-user copy, and the paths of it and of the bundle.
 #pragma once
 
 #include "ustring/ustring.h"

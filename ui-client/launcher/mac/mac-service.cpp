@@ -4,7 +4,6 @@
 #include <signal.h>
 #include <unistd.h>
 
-#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStringList>
@@ -14,8 +13,10 @@
 
 #include "config.h"
 #include "file/file-op.h"
+#include "install-layout.h"
 #include "log.h"
 #include "platform/desktop/open-application.h"
+#include "ui-client/launcher/qt-text.h"
 
 #define LOG_TAG "mac/mac-service"
 
@@ -24,7 +25,6 @@ namespace {
 constexpr int kTimeout = 10000;
 constexpr int kProbes = 5;
 constexpr unsigned kPause = 1;  // seconds
-constexpr char kExecutable[] = "Contents/MacOS/quillmere-ui";
 constexpr char kLsregister[] =
     "/System/Library/Frameworks/CoreServices.framework/Frameworks/LaunchServices.framework/Support/"
     "lsregister";
@@ -91,7 +91,7 @@ bool MacService::IsNeedUpgrade() {
 }
 
 bool MacService::PerUserBinPathExist() {
-    const ustring path = user_app_path + "/" + kExecutable;
+    const ustring path = user_app_path + "/" + layout::kExecutable;
     return access(path.c_str(), F_OK) == 0;
 }
 
@@ -104,7 +104,7 @@ int MacService::HandlePackageUpgrade() {
 }
 
 void MacService::StopService() {
-    const ustring path = GetUserQuillmereInstallPath() + "/ui.pid";
+    const ustring path = GetUserQuillmereInstallPath() + "/" + layout::kPidFile;
     if (!IsFileExist(path, false)) {
         Logger::LogMsg(LOG_LINE(DEBUG, "pid file '%s' does not exist, no need to terminate\n"),
                        path.c_str());
@@ -137,11 +137,11 @@ void MacService::StopService() {
 }
 
 int MacService::LaunchPerUserBin() {
-    const QString app = QDir::homePath() + "/.Quillmere/Quillmere.app";
+    const QString app = ToQString(GetUserQuillmereAppInstallPath());
     if (RunLsregister(QStringList{"-u", app}) != 0) {
         Logger::LogMsg(LOG_LINE(ERROR, "Cannot unregister bundle, %s"), app.toUtf8().constData());
     }
-    return OpenApplication(app, kExecutable) ? 0 : -1;
+    return OpenApplication(app, layout::kExecutable) ? 0 : -1;
 }
 
 void MacService::PostUpgrade() {

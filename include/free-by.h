@@ -1,0 +1,11 @@
+// Owners of what a C library makes.
+#pragma once
+
+// A deleter for std::unique_ptr: std::unique_ptr<DIR, FreeBy<closedir>>.
+template <auto Free>
+struct FreeBy {
+    template <class T>
+    void operator()(T* object) const {
+        Free(object);
+    }
+};
