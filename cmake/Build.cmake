@@ -1,4 +1,4 @@
-# Warnings, sanitizers and coverage, for all targets that link quillmere-build.
+# Warnings, hardening, sanitizers and coverage, for all targets that link quillmere-build.
 option(QUILLMERE_WERROR "Treat warnings as errors" OFF)
 option(QUILLMERE_COVERAGE "Instrument for gcov" OFF)
 set(QUILLMERE_SANITIZE "" CACHE STRING "Sanitizers, comma separated: address,undefined or thread")
@@ -7,6 +7,12 @@ add_library(quillmere-build INTERFACE)
 target_include_directories(quillmere-build INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
 target_compile_options(quillmere-build INTERFACE -Wall -Wextra -Wpedantic -Wshadow
                        $<$<BOOL:${QUILLMERE_WERROR}>:-Werror>)
+include(Hardening)
+quillmere_harden(quillmere-build)
+# No path of the machine that builds is in what it builds. The last match counts.
+target_compile_options(quillmere-build INTERFACE
+  -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=./build)
+
 if(QUILLMERE_SANITIZE)
   target_compile_options(quillmere-build INTERFACE -fsanitize=${QUILLMERE_SANITIZE}
                          -fno-omit-frame-pointer -fno-sanitize-recover=all)

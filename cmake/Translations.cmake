@@ -34,4 +34,5 @@ function(quillmere_add_texts library directory)
     COMMAND Qt5::rcc --format-version 1 --name texts --output ${collection} ${qrc}
     DEPENDS ${compiled} ${qrc} VERBATIM)
   add_library(${library} STATIC ${collection})
+  target_link_libraries(${library} PRIVATE quillmere-build)
 endfunction()

@@ -241,7 +241,7 @@ int ReadWithoutDescriptor() {
 
 TEST_F(FileOp, Messages) {
     WriteFile(at_ / kNotUtf8, "");
-    symlink(std::string(1024, 'x').c_str(), "long");
+    fs::create_symlink(std::string(1024, 'x'), "long");
     const std::string dir(4089, 'x');
     ustring text("before");
     _FILE_INFO_tag info;
