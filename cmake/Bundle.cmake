@@ -47,7 +47,7 @@ endfunction()
 # quillmere_qt_directory(<result> <QT_INSTALL_...>): a directory of the Qt that is built with. It is kept in the
 # cache as <result>, for the scripts too.
 function(quillmere_qt_directory result property)
-  get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
+  get_target_property(qmake Qt${QUILLMERE_QT}::qmake IMPORTED_LOCATION)
   execute_process(COMMAND ${qmake} -query ${property} OUTPUT_VARIABLE directory
                   OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
   set(${result} ${directory} CACHE INTERNAL "Qt's ${property}")

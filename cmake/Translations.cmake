@@ -1,5 +1,4 @@
 # The resource collection `texts`: one .qm for each .ts file, compiled into the program.
-find_package(Qt5LinguistTools REQUIRED)
 
 # quillmere_add_texts(<library> <directory of the .ts files>)
 #
@@ -16,7 +15,7 @@ function(quillmere_add_texts library directory)
     add_custom_command(
       OUTPUT ${qm}
       COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_CURRENT_BINARY_DIR}/texts
-      COMMAND Qt5::lrelease -silent -nounfinished ${source} -qm ${qm}
+      COMMAND Qt${QUILLMERE_QT}::lrelease -silent -nounfinished ${source} -qm ${qm}
       DEPENDS ${source} VERBATIM)
     list(APPEND compiled ${qm})
     if(code IN_LIST plain)
@@ -31,7 +30,7 @@ function(quillmere_add_texts library directory)
   # Version 1 of the format: later ones store time stamps, and default to another compression.
   add_custom_command(
     OUTPUT ${collection}
-    COMMAND Qt5::rcc --format-version 1 --name texts --output ${collection} ${qrc}
+    COMMAND Qt${QUILLMERE_QT}::rcc --format-version 1 --name texts --output ${collection} ${qrc}
     DEPENDS ${compiled} ${qrc} VERBATIM)
   add_library(${library} STATIC ${collection})
   target_link_libraries(${library} PRIVATE quillmere-build)

@@ -8,6 +8,7 @@ extern "C" const char* __lsan_default_suppressions() {
     return "leak:libqoffscreen\n"
            "leak:libqxcb\n"
            "leak:libQt5XcbQpa\n"
+           "leak:libQt6XcbQpa\n"
            "leak:libdbus-1\n"
            "leak:libfontconfig\n";
 }

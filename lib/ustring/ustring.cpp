@@ -1,10 +1,11 @@
 // The two views of a text, its searches and comparisons; ICU does the conversions.
 #include "ustring/ustring.h"
 
-// ICU's own switch: its C interface takes the unit type of this class, so that no call needs a
-// cast.
+// ICU's own switches: its C interface alone, with the unit type of this class, so that no call needs
+// a cast. Since ICU 76 the C++ interface has two parts.
 #define UCHAR_TYPE unsigned short
 #define U_SHOW_CPLUSPLUS_API 0
+#define U_SHOW_CPLUSPLUS_HEADER_API 0
 
 #include <unicode/unorm2.h>
 #include <unicode/ustring.h>

@@ -1,6 +1,7 @@
 // What the application object needs where the window system is X11 or Wayland.
 #include <QAccessible>
 #include <QFile>
+#include <QGuiApplication>
 #include <QOpenGLContext>
 
 #include "platform/desktop/gui-environment.h"
@@ -54,6 +55,8 @@ void GuiEnvironment::UseDisplay(const QString& library_path) {
         environment_.Set(kPluginPath, QFile::encodeName(plugins));
     }
     EnableHighDpiScaling();
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     fonts_.Start();
 }
 

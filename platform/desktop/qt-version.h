@@ -1,7 +1,7 @@
 // What differs between Qt 5 and Qt 6.
 #pragma once
 
-#include <QGuiApplication>
+#include <QCoreApplication>
 #include <QLibraryInfo>
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
@@ -18,8 +18,12 @@ inline void UseUtf8Codec() {
 
 inline void EnableHighDpiScaling() {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+}
+
+// A template, for the sake of programs without QGuiApplication.
+template <class Application>
+void DisableFallbackSessionManagement() {
+    Application::setFallbackSessionManagementEnabled(false);
 }
 
 #else
@@ -28,8 +32,10 @@ inline QString QtPluginsDirectory() {
     return QLibraryInfo::path(QLibraryInfo::PluginsPath);
 }
 
-// Qt 6 always has both.
+// Qt 6 always uses UTF-8, always scales, and has no such fallback.
 inline void UseUtf8Codec() {}
 inline void EnableHighDpiScaling() {}
+template <class Application>
+void DisableFallbackSessionManagement() {}
 
 #endif

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QRegularExpression>
 
 #include "unique-fd.h"
 
@@ -75,6 +76,6 @@ void Spy(World& world, const char* how) {
 }
 
 std::string Told(const Outcome& run) {
-    QStringList told = QString::fromStdString(run.err).split('\n').filter(QRegExp("^window: "));
+    QStringList told = QString::fromStdString(run.err).split('\n').filter(QRegularExpression("^window: "));
     return told.replaceInStrings("window: ", "").join('\n').toStdString();
 }

@@ -21,7 +21,7 @@ QString CutOff(const QLabel& label) {
     QString cut;
     for (const QString& file : QDir(":/").entryList({"???.qm"})) {
         QTranslator language;
-        language.load(":/" + file);
+        cut += language.load(":/" + file) ? "" : " unreadable " + file;
         for (const char* const text : {"Quillmere Drive is initializing...", "Quillmere Drive is ready."}) {
             const QString shown = language.translate("global", text);
             const int width = label.fontMetrics().horizontalAdvance(shown);

@@ -6,12 +6,12 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLibraryInfo>
 #include <cstdio>
 #include <limits>
 #include <optional>
 
 #include "install-layout.h"
+#include "platform/desktop/qt-version.h"
 #include "tools/qpk/bundle.h"
 #include "tools/qpk/check.h"
 #include "tools/qpk/message.h"
@@ -186,7 +186,7 @@ void Bundle(const QStringList& arguments) {
     options.output = parser.RequiredValue("output");
     options.launcher = or_default("launcher", data + "launcher");
     options.icon = or_default("icon", data + "ico_72_quillmere.png");
-    options.plugins = or_default("plugins", QLibraryInfo::location(QLibraryInfo::PluginsPath));
+    options.plugins = or_default("plugins", QtPluginsDirectory());
     options.copy_plugins = parser.IsSet("copy-plugins");
     options.depfile = parser.Value("depfile");
     WriteBundle(options);

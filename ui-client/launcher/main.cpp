@@ -16,6 +16,7 @@
 #include "install-layout.h"
 #include "log.h"
 #include "platform/desktop/gui-environment.h"
+#include "platform/desktop/qt-version.h"
 #include "platform/desktop/qtsingleapplication.h"
 #include "platform/files/file-lock.h"
 #include "platform/process/process-setup.h"
@@ -64,8 +65,7 @@ void SetUpLog() {
 }
 
 void SetUpLanguage(QTranslator& translator, const QString& resource) {
-    translator.load(resource, QString(), QString(), QString());
-    if (!translator.isEmpty()) {
+    if (translator.load(resource, QString(), QString(), QString()) && !translator.isEmpty()) {
         QCoreApplication::installTranslator(&translator);
     }
 }
@@ -74,7 +74,7 @@ void SetUpLanguage(QTranslator& translator, const QString& resource) {
 // for its clients one by one, and Launcher's last quit() ends all event loops.
 void StayUntilTheRunIsOver(const QApplication& application) {
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setFallbackSessionManagementEnabled(false);
+    DisableFallbackSessionManagement<QApplication>();
     QObject::connect(&application, &QApplication::commitDataRequest, [] { QEventLoop().exec(); });
 }
 

@@ -30,7 +30,11 @@ bool IsOneOf(const QString& name, const QString* list) {
 }  // namespace
 
 QString OrvaLocale::getDefaultLanguage() {
-    const QString qstrLocaleLower = QLocale::system().name().toLower();
+    return getLanguageOf(QLocale::system().name());
+}
+
+QString OrvaLocale::getLanguageOf(const QString& locale) {
+    const QString qstrLocaleLower = locale.toLower();
     qDebug("%s:%d %s=[%s\n] ", kFile, __LINE__, "qPrintable(qstrLocaleLower)",
            qPrintable(qstrLocaleLower));
     QString qstrDef;

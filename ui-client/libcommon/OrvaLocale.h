@@ -13,6 +13,9 @@ namespace OrvaLocale {
 // for want of another. Reads the locale anew at each call and writes its way to qDebug.
 QString getDefaultLanguage();
 
+// The same for a locale by its name, such as "pt_BR".
+QString getLanguageOf(const QString& locale);
+
 // Whether the translation of this code is there.
 bool isLanguageInstalled(const QString& code);
 
