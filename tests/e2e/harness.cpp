@@ -87,7 +87,9 @@ std::vector<std::string> World::Locks() const {
 
 void World::Offer(int build, const std::string& package) {
     WriteFile(Bundle() + kInfo, Info(build));
-    WriteFile(Bundle() + "/Contents/Resources/package/quillmere.qpk", package);
+    const std::string path = Bundle() + "/Contents/Resources/package/quillmere.qpk";
+    fs::remove(path);
+    WriteFile(path, package);
 }
 
 void World::Have(int build) const {
@@ -101,7 +103,7 @@ void World::LogEverything() {
               "launcher_debug=7\nservice_debug=7\nextractor_debug=7\nfile_op_debug=7\n");
 }
 
-std::unique_ptr<QProcess> World::Start(const std::function<void()>& in_child, const QStringList& arguments) const {
+std::unique_ptr<QProcess> World::Spawn(const std::function<void()>& in_child, const QStringList& arguments) const {
     auto process = std::make_unique<ChildProcess>(in_child);
     process->setProcessEnvironment(environment);
     process->start(QString::fromStdString(program.empty() ? LauncherPath() : program), arguments);

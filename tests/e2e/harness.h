@@ -45,10 +45,10 @@ class World {
     void LogEverything();
 
     // `in_child` runs between fork and exec.
-    std::unique_ptr<QProcess> Start(
+    std::unique_ptr<QProcess> Spawn(
         const std::function<void()>& in_child = [] {}, const QStringList& arguments = {}) const;
     Outcome Finish(QProcess& process) const;
-    Outcome Launch() const { return Finish(*Start()); }
+    Outcome Run() const { return Finish(*Spawn()); }
 
     // The process that the pid file names; 0 without one.
     pid_t ClientPid() const;

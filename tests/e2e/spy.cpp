@@ -36,13 +36,14 @@ void OnShow(const QProgressDialog& dialog) {
     const auto label = dialog.findChild<QLabel*>();
     const auto bar = dialog.findChild<QProgressBar*>();
     Tell(dialog.windowTitle() + ", " + label->text());
-    Tell(QString("%1 pixels on %2, icon of %3, %4 on %5, cut off:%6")
+    Tell(QString("%1 pixels on %2, modal: %7, icon of %3, %4 on %5, cut off:%6")
              .arg(qRound(dialog.width() * dialog.devicePixelRatioF() / 10) * 10)
              .arg(QGuiApplication::platformName())
              .arg(dialog.windowIcon().actualSize({500, 500}).width())
              .arg(label->palette().windowText().color().name())
              .arg(bar->palette().base().color().name())
-             .arg(CutOff(*label)));
+             .arg(CutOff(*label))
+             .arg(dialog.isModal()));
     label->setText("spoilt");
     QObject::connect(bar, &QProgressBar::valueChanged, [label, bar](int value) {
         Tell(QString("%1, %2").arg(value).arg(label->text()));

@@ -332,7 +332,7 @@ TEST(Starts, AtOnceAndKilledAtRandom) {
         std::vector<std::unique_ptr<QProcess>> starts;
         for (int start = 0; start < 30; ++start) {
             world.environment.insert("XDG_RUNTIME_DIR", start % 2 == 0 ? "/nowhere" : "/tmp");
-            starts.push_back(world.Start());
+            starts.push_back(world.Spawn());
             if (build == 2 && random() % 3 == 0) { starts[random() % starts.size()]->kill(); }
         }
         for (const auto& start : starts) {
@@ -347,17 +347,17 @@ TEST(Starts, AtOnceAndKilledAtRandom) {
         const std::string log = world.Log();
         EXPECT_TRUE(build == 2 || log.find("extract package: ") == log.rfind("extract package: "));
     }
-    EXPECT_EQ(world.Launch().exit_code, 0);
+    EXPECT_EQ(world.Run().exit_code, 0);
     EXPECT_EQ(world.Installed(), "2");
 }
 
 TEST(Starts, UnderALimitOfTheSizeOfAFile) {
     World world;
     world.Offer(1, Pack(kKinds.at("old")));
-    EXPECT_EQ(world.Launch().exit_code, 0);
+    EXPECT_EQ(world.Run().exit_code, 0);
     world.Offer(2, Pack(kKinds.at("new")));
     const rlimit limit{100000, 100000};
-    const auto start = world.Start([&] { setrlimit(RLIMIT_FSIZE, &limit); });
+    const auto start = world.Spawn([&] { setrlimit(RLIMIT_FSIZE, &limit); });
     EXPECT_TRUE(world.Finish(*start).normal);
     EXPECT_EQ(KindOf(world.App()), "old");
 }

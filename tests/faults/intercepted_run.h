@@ -117,7 +117,7 @@ inline int RunIntercepted(const World& world, const std::vector<std::string>& pl
                           const std::function<int(const FileCall&)>& answer) {
     constexpr int kListener = 200;
     prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0);  // of launchers and clients that outlive their parent
-    const auto supervisor = world.Start([] { dup2(InstallFilter(), kListener); });
+    const auto supervisor = world.Spawn([] { dup2(InstallFilter(), kListener); });
     const UniqueFd listener(Borrow(static_cast<pid_t>(supervisor->processId()), kListener));
     QElapsedTimer timer;
     timer.start();

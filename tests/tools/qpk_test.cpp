@@ -264,7 +264,7 @@ TEST_F(QpkTest, BundleInstallsItsClient) {
     EXPECT_TRUE(Contains(ReadFile(world.Bundle() + "/Contents/Info.plist"), "<string>7</string>"));
     EXPECT_TRUE(Contains(ReadFile(dir_ / "d"), "\\ Drive.app/Contents/Resources/INFO:"));
     EXPECT_TRUE(Contains(ReadFile(dir_ / "d"), dir_ / "c/Contents/MacOS/quillmere-ui"));
-    EXPECT_EQ(world.Launch().exit_code, 0);
+    EXPECT_EQ(world.Run().exit_code, 0);
     EXPECT_NE(world.WaitForClient(), 0);
     EXPECT_EQ(world.Installed(), "7");
     Shell("mkdir -p P/{themes,wayland-x}; cp -r " QT_PLUGINS
