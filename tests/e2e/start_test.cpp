@@ -19,6 +19,7 @@ struct Session {
     bool shows;  // the window on a display, and a spy can be heard
     std::function<void(World&)> prepare;
     std::vector<int> closed = {};  // descriptors
+    QStringList arguments = {};
     World world = World();
     std::unique_ptr<QProcess> process = nullptr;
     QElapsedTimer since_start = {};
@@ -35,10 +36,12 @@ void Begin(Session& session) {
     session.prepare(world);
     world.Offer(1);
     session.since_start.start();
-    session.process = world.Spawn([&session] {
-        fs::current_path(session.world.dir.path());
-        std::for_each(session.closed.begin(), session.closed.end(), close);
-    });
+    session.process = world.Spawn(
+        [&session] {
+            fs::current_path(session.world.dir.path());
+            std::for_each(session.closed.begin(), session.closed.end(), close);
+        },
+        session.arguments);
 }
 
 void Check(const Session& session) {
@@ -96,6 +99,7 @@ TEST(Launcher, StartsInSessionsOfManyKinds) {
         {"silent display", false, With(ListenAsDisplay(silent))},
         {"half an answer", false, With(ListenAsDisplay(stammering))},
         {"silent bus", true, With(display, "DBUS_SESSION_BUS_ADDRESS", "unix:path=" + bus_name)},
+        {"silent session manager", true, With(display, "SESSION_MANAGER", "unix/unix:" + bus_name)},
     };
     Session quick[] = {
         {"display", true, With(display)},
@@ -104,6 +108,7 @@ TEST(Launcher, StartsInSessionsOfManyKinds) {
         {"nobody's display", false, With(":4242", "QT_QPA_PLATFORM", "xcb")},
         {"Wayland without its plug-in", true, With(display, "QT_QPA_PLATFORM", "wayland")},
         {"exit while Qt starts", false, With(display, "QT_QPA_GENERIC_PLUGINS", "spy:exit")},
+        {"arguments that end Qt", false, With(display), {}, {"-platform", "nonsense"}},
         {"streams 0 and 1 closed", true, With(display), {0, 1}},
         {"streams 1 and 2 closed", false, With(display), {1, 2}},
         {"streams 0 to 2 closed", false, With(display), {0, 1, 2}},

@@ -178,7 +178,12 @@ TEST_F(ServiceTest, WithoutPermission) {
     EXPECT_EQ(ReadFile(App() + "_tmp/mark"), "old");
     EXPECT_TRUE(fs::exists(App() + "/Contents/Resources"));
     EXPECT_FALSE(fs::exists(App() + kInfo));
-    // Where nothing can be seen, there may be a copy.
+    // Where nothing can be seen, there may be a copy. Nor is it known to be incomplete.
+    WriteFile(App() + "_tmp" + kInfo, "build_version=1");
+    WriteFile(App() + kInfo, "");
+    fs::permissions(App() + kInfo, fs::perms::none);
+    InChild(BecomeNobody, [] { Service::Repair({}); });
+    EXPECT_EQ(ReadFile(App() + "_tmp/mark"), "old");
     fs::permissions(home / ".Quillmere", fs::perms::none);
     InChild(BecomeNobody, [&] { EXPECT_EQ(service.PrepareUserEnv(), -1); });
     EXPECT_EQ(LogLines("failed to backup app from '"), 11);

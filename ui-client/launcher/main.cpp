@@ -43,7 +43,7 @@ const ustring kLogComponent("launcher_debug");
 constexpr const char* kDifferences[] = {
     "leaves out nothing", "leaves out the session's bus and manager", "has no display",
     "has no display and puts the old copy back if the new one is incomplete",
-    "puts the old copy back if the new one is incomplete and opens the client without an upgrade"};
+    "puts the old copy back if the new one is incomplete, and does not try an upgrade"};
 
 // The bundle's plug-ins replace Qt's own search. Result: the path that was set.
 QString SetLibraryPath(const char* program) {
@@ -128,7 +128,7 @@ int EndAsSecondInstance() {
 }
 
 // The run, from the first string to the client. Result: that of the event loop.
-int Run(StartMode mode, FileLock& lock) {
+int Run(const Attempt& attempt, FileLock& lock) {
     QTranslator translator(nullptr);
     const QString resource = ":/" + OrvaLocale::getDefaultLanguage() + ".qm";
     SetUpLanguage(translator, resource);
@@ -138,8 +138,8 @@ int Run(StartMode mode, FileLock& lock) {
     Launcher launcher;
     ReportStage(Stage::kReady);
     WaitForOtherBundle(lock);
-    if (mode >= StartMode::kAfterRepair) {
-        Service::PutBackupBack();
+    if (attempt.mode >= StartMode::kAfterRepair) {
+        Service::Repair(attempt);
     }
     launcher.Run();
     launcher.Start();
@@ -159,7 +159,7 @@ int RunWithWindow(const Attempt& attempt, int argc, char** argv, const QString& 
         return EndAsSecondInstance();
     }
     StayUntilTheRunIsOver(application);
-    return Run(attempt.mode, lock);
+    return Run(attempt, lock);
 }
 
 // The last attempt depends on nothing that may have ended the others: no window, no package.
@@ -172,7 +172,7 @@ int OpenOnly(const Attempt& attempt, int argc, char** argv) {
     FileLock lock(InstallLockPath(), Program());
     if (!IsHeldByThisBundle(lock)) {
         WaitForOtherBundle(lock);
-        Service::PutBackupBack();
+        Service::Repair(attempt);
         MacService().PostUpgrade();
     }
     ReportStage(Stage::kOpened);

@@ -15,6 +15,7 @@
 #include "install-layout.h"
 #include "log.h"
 #include "platform/files/flush.h"
+#include "platform/process/supervisor.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/qt-text.h"
 
@@ -154,6 +155,13 @@ void RemoveCopy(const ustring& copy) {
     FSRemove(copy, false);
 }
 
+// Removes the first `backups` names, whatever has them.
+void RemoveBackups(const ustring& app, int backups) {
+    for (int index = 0; index < backups; ++index) {
+        RemoveCopy(GetAppBackupDir(app, index));
+    }
+}
+
 void RollBack(const ustring& app, const ustring& backup) {
     RemoveCopy(app);
     FSRename(backup, app, false);
@@ -201,14 +209,26 @@ ustring NewestBackup(const ustring& app) {
     return newest;
 }
 
+void PutBack(const ustring& app, const ustring& backup) {
+    Logger::LogMsg(LOG_LINE(NOTE, "putting '%s' back\n"), backup.c_str());
+    RollBack(app, backup);
+}
+
 }  // namespace
 
-void Service::PutBackupBack() {
+void Service::Repair(const Attempt& attempt) {
     const ustring app = GetUserQuillmereAppInstallPath();
-    const ustring backup = VersionOf(app) == Version::kMissing ? NewestBackup(app) : ustring();
-    if (!backup.empty()) {
-        Logger::LogMsg(LOG_LINE(NOTE, "putting '%s' back\n"), backup.c_str());
-        RollBack(app, backup);
+    if (attempt.reached == Stage::kInstalled) {
+        RemoveBackups(app, attempt.backups);
+        return;
+    }
+    const ustring moved = GetAppBackupDir(app, attempt.backups - 1);
+    if (attempt.reached == Stage::kMoved && !IsAbsent(moved)) {
+        PutBack(app, moved);
+    }
+    const ustring newest = VersionOf(app) == Version::kMissing ? NewestBackup(app) : ustring();
+    if (!newest.empty()) {
+        PutBack(app, newest);
     }
 }
 
@@ -220,11 +240,14 @@ int Service::PrepareUserEnv() {
     if (may_be_there && BackUp(app, backup, index) != 0) {
         return -1;
     }
+    const char backups = static_cast<char>(index + 1);
+    if (may_be_there) {
+        ReportStage(Stage::kMoved, backups);
+    }
     if (ExtractPackage() == 0) {
         Logger::LogMsg(LOG_LINE(INFO, "user installation is ready, removing backup app\n"));
-        for (int k = 0; k <= index; ++k) {
-            RemoveCopy(GetAppBackupDir(app, k));
-        }
+        ReportStage(Stage::kInstalled, backups);
+        RemoveBackups(app, backups);
         return 0;
     }
     if (backup.empty()) {

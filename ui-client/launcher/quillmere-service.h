@@ -1,6 +1,7 @@
 // The upgrade of the per-user copy, and the paths of it and of the bundle.
 #pragma once
 
+#include "platform/process/supervisor.h"
 #include "ustring/ustring.h"
 
 // The four version texts of an INFO file, as read from it.
@@ -58,10 +59,12 @@ class Service {
     // power cut, APP or a backup is whole, and a torn APP has no version.
     virtual int PrepareUserEnv();
 
-    // Repairs the copy after an attempt that died: if APP has no version and a backup has one,
-    // removes APP and renames the newest such backup to it, on the disk at return. Does nothing if
-    // the version of APP cannot be read.
-    static void PutBackupBack();
+    // Completes or undoes the upgrade of a previous attempt that died. After Stage::kInstalled,
+    // removes the backups. After Stage::kMoved, puts the backup of that upgrade back, unless that
+    // attempt did it. Then puts the newest backup with a version back if APP has none; not if the
+    // version of APP cannot be read. To put a backup back is to remove APP and to rename the backup;
+    // both are on the disk at return.
+    static void Repair(const Attempt& attempt);
 
     // Copies a file or a whole tree, contents only; links are copied as what they lead to. A
     // directory that cannot be opened gives an empty one and a warning. Result: 0; -1 at the first
