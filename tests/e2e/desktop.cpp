@@ -1,4 +1,4 @@
-// Xvfb, openbox and xdotool; slow packages and the spy.
+// Xvfb, openbox and xdotool; slow packages; the spy plug-in.
 #include "e2e/desktop.h"
 
 #include <fcntl.h>
@@ -19,7 +19,7 @@ Desktop::Desktop(int resolution) {
                            QString::number(resolution)});
     EXPECT_TRUE(WaitFor([&] { return server_.canReadLine() || server_.waitForReadyRead(100); }));
     display_ = ":" + server_.readLine().trimmed();
-    // Its keys are the usual ones, whatever this user has configured.
+    // Default key bindings, not those of this user.
     manager_.start("env", {"DISPLAY=" + display_, "HOME=" + QDir::tempPath(), "XDG_CONFIG_HOME=", "openbox",
                            "--startup", "echo ready"});
     EXPECT_TRUE(manager_.waitForReadyRead());
@@ -58,13 +58,13 @@ SlowPackage::SlowPackage(const World& world)
     EXPECT_EQ(mkfifo(path_.c_str(), S_IRUSR | S_IWUSR), 0);
 }
 
-// Whoever waits reads the FIFO; whoever comes later, the file.
+// A waiting launcher reads the FIFO; later ones read the file.
 void SlowPackage::Arrive() const {
     UniqueFd fifo;
     EXPECT_TRUE(WaitFor([&] {
         fifo.reset(open(path_.c_str(), O_WRONLY | O_NONBLOCK));
         return fifo.valid();
-    })) << "nobody reads the package";
+    })) << "no launcher reads the package";
     WriteFile(path_ + ".new", package_);
     fs::rename(path_ + ".new", path_);
     EXPECT_EQ(write(fifo.get(), package_.data(), package_.size()), static_cast<ssize_t>(package_.size()));
@@ -75,7 +75,7 @@ void Spy(World& world, const char* how) {
     world.environment.insert("QT_QPA_GENERIC_PLUGINS", how);
 }
 
-std::string Told(const Outcome& run) {
-    QStringList told = QString::fromStdString(run.err).split('\n').filter(QRegularExpression("^window: "));
-    return told.replaceInStrings("window: ", "").join('\n').toStdString();
+std::string SpyOutput(const Outcome& run) {
+    QStringList lines = QString::fromStdString(run.err).split('\n').filter(QRegularExpression("^window: "));
+    return lines.replaceInStrings("window: ", "").join('\n').toStdString();
 }

@@ -67,7 +67,7 @@ World::World(const std::string& name) : home_name(name), environment(QProcessEnv
     environment.insert("LANG", "C.UTF-8");
 }
 
-// Their environment tells which processes have to do with this directory (proc(5)).
+// Processes of this test have its directory in their environment (proc(5)).
 World::~World() {
     for (const auto& process : fs::directory_iterator("/proc")) {
         const pid_t pid = std::atoi(process.path().filename().c_str());
@@ -162,11 +162,11 @@ bool WaitFor(const std::function<bool()>& condition, int seconds) {
     return true;
 }
 
-// A zombie is as good as gone: nobody is left that could run.
+// A zombie counts as dead.
 bool IsAlive(pid_t pid) {
     const std::string status = ReadFile("/proc/" + std::to_string(pid) + "/stat");
-    const std::size_t behind_name = status.rfind(") ");
-    return behind_name != std::string::npos && status[behind_name + 2] != 'Z';
+    const std::size_t end_of_name = status.rfind(") ");
+    return end_of_name != std::string::npos && status[end_of_name + 2] != 'Z';
 }
 
 void Kill(pid_t pid) {

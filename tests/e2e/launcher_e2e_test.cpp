@@ -1,4 +1,4 @@
-// Drives the real launcher with real packages and a real client.
+// Runs the real launcher with real packages and a real client.
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -36,8 +36,8 @@ TEST(Launcher, UpgradesAndLeavesACurrentCopyAlone) {
     EXPECT_EQ(fs::last_write_time(world.App()), installed);
 }
 
-// As a user who owns nothing else: a signal that goes astray, to a group or to all, must not end
-// the machine. Meanwhile another launcher has a client that must be killed.
+// Runs as a user without other processes, because a stray signal to a group or to all processes would
+// kill them. Meanwhile another launcher kills a client that ignores SIGTERM.
 TEST(Launcher, StopsTheClientAndNobodyElse) {
     if (getuid() != 0) { GTEST_SKIP() << "needs root to become another user"; }
     World stubborn;
@@ -109,8 +109,7 @@ TEST(Launcher, GivesTheClientACleanProcess) {
     EXPECT_EQ(given, std::set<QString>(users.begin(), users.end()));
     const std::string status = ReadFile((proc + "/status").toStdString());
     EXPECT_TRUE(Contains(status, "SigBlk:\t0000000000000000"));
-    // All but the two of the thread library (nptl(7)), which no program can set, and SIGPIPE, which
-    // Qt ignores in the client itself.
+    // Except two signals of the thread library (nptl(7)), and SIGPIPE, which Qt ignores in the client.
     const std::size_t ignored = status.find("SigIgn:\t") + 8;
     EXPECT_EQ(std::stoull(status.substr(ignored, 16), nullptr, 16) & ~0x180001000ull, 0u) << status;
     for (const QFileInfo& file : QDir(proc + "/fd").entryInfoList(QDir::Files | QDir::System)) {

@@ -1,4 +1,4 @@
-// Starts in sessions of many kinds, and several starts at once.
+// Starts in many kinds of sessions, several starts at once, and starts whose processes die.
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/resource.h>
@@ -16,7 +16,7 @@ namespace {
 
 struct Session {
     const char* name;
-    bool shows;  // the window on a display, and a spy can be heard
+    bool shows;  // the window, and the spy can write
     std::function<void(World&)> prepare;
     std::vector<int> closed = {};  // descriptors
     QStringList arguments = {};
@@ -48,13 +48,13 @@ void Check(const Session& session) {
     SCOPED_TRACE(session.name);
     const Outcome run = session.world.Finish(*session.process);
     EXPECT_TRUE(Succeeded(run, session.world, 1));
-    EXPECT_EQ(Contains(Told(run), "on xcb"), session.shows);
+    EXPECT_EQ(Contains(SpyOutput(run), "on xcb"), session.shows);
     EXPECT_FALSE(Contains(session.world.Log(), "lib path"));
     EXPECT_FALSE(fs::exists(session.world.Home() + "/started"));
     EXPECT_LT(session.since_start.elapsed(), 8000) << "one limit of 5 s at most";
 }
 
-// With a variable and the display, if there is one, in the environment.
+// Sets DISPLAY, if not empty, and another variable.
 std::function<void(World&)> With(const QString& display, const char* variable = "LANG", const QString& value = "C") {
     return [=](World& world) {
         world.environment.remove("QT_QPA_PLATFORM");
@@ -63,7 +63,7 @@ std::function<void(World&)> With(const QString& display, const char* variable = 
     };
 }
 
-// With zeros in the platform plug-ins, or with none.
+// Overwrites `count` bytes of the platform plug-ins with zeros, or removes the plug-ins if `count` is 0.
 std::function<void(World&)> WithPlugins(const QString& display, std::size_t at, std::size_t count) {
     return [=](World& world) {
         With(display)(world);
@@ -77,7 +77,7 @@ std::function<void(World&)> WithPlugins(const QString& display, std::size_t at, 
     };
 }
 
-// Takes connections as an X display does. Result: its name.
+// Accepts connections as an X display does. Result: the name of the display.
 QString ListenAsDisplay(QTcpServer& server) {
     int number = 101;
     while (!server.listen(QHostAddress::LocalHost, static_cast<quint16>(6000 + number))) { ++number; }
@@ -129,13 +129,13 @@ TEST(Launcher, StartsInSessionsOfManyKinds) {
     std::for_each(std::begin(slow), std::end(slow), Check);
 }
 
-// A limit of one is the launcher itself, which then becomes the client.
+// With a limit of one process, the launcher becomes the client.
 TEST(Launcher, StartsWithoutThreadsProcessesOrAHome) {
     if (getuid() != 0) { GTEST_SKIP() << "needs root to become another user"; }
     for (const rlim_t limit : {1, 2, 3, 4, 4000}) {
         const bool has_home = limit != 4000;
         World world;
-        // A sanitizer looks for leaks in a process of its own.
+        // The leak sanitizer needs another process.
         world.environment.insert("ASAN_OPTIONS", "detect_leaks=0");
         fs::permissions(world.dir.path(), fs::perms(0755));
         ASSERT_EQ(chown(world.Home().c_str(), has_home ? kLoner : 0, 0), 0);
@@ -151,7 +151,7 @@ TEST(Launcher, StartsWithoutThreadsProcessesOrAHome) {
     }
 }
 
-// While one launcher waits in the middle of an upgrade. What a killed one left is nobody's lock.
+// While one launcher is upgrading. A killed launcher leaves no lock.
 TEST(Launcher, RunsOneAtATime) {
     World world;
     world.LogEverything();
@@ -169,7 +169,7 @@ TEST(Launcher, RunsOneAtATime) {
     const auto first = world.Spawn();
     ASSERT_TRUE(is_logged(": extract package: ", 2));
 
-    // Again from here, from another session, and with another user's lock in the way.
+    // From the same session, from another session, and with another user's lock file in the way.
     EXPECT_TRUE(EndedWell(world.Run()));
     world.environment.remove("XDG_RUNTIME_DIR");
     world.environment.insert("TMPDIR", QString::fromStdString(world.dir.path()));
@@ -184,7 +184,7 @@ TEST(Launcher, RunsOneAtATime) {
     EXPECT_TRUE(EndedWell(world.Run()));
     EXPECT_TRUE(is_logged("app has already launched, return", 3));
 
-    // Another bundle is another instance, and waits.
+    // A launcher of another bundle waits.
     world.program = world.dir / "Other.app/Contents/MacOS/launcher";
     const auto other = world.Spawn();
     EXPECT_TRUE(WaitFor([&] {
@@ -198,10 +198,10 @@ TEST(Launcher, RunsOneAtATime) {
     world.program.clear();
     EXPECT_TRUE(Succeeded(world.Run(), world, 2));
     EXPECT_TRUE(is_logged(": no need to upgrade\n", 2));
-    EXPECT_EQ(world.Locks().size(), getuid() == 0 ? 1u : 0u) << "another's lock is gone";
+    EXPECT_EQ(world.Locks().size(), getuid() == 0 ? 1u : 0u) << "the other user's lock file is gone";
 }
 
-// While the package arrives slowly, a signal ends a process of the start.
+// A signal kills a process of the start while the package arrives slowly.
 TEST(Launcher, GoesOnWhenItsWorkingProcessDies) {
     const auto supervisor = [](const QProcess& start) { return static_cast<pid_t>(start.processId()); };
     const std::function<pid_t(const QProcess&)> worker = LauncherOf;
