@@ -1,8 +1,8 @@
 // The two views of a text, its searches and comparisons; ICU does the conversions.
 #include "ustring/ustring.h"
 
-// ICU's own switches: its C interface alone, with the unit type of this class, so that no call needs
-// a cast. Since ICU 76 the C++ interface has two parts.
+// ICU's own switches: its C interface alone, with the unit type of this class, so that no call
+// needs a cast. Since ICU 76 the C++ interface has two parts.
 #define UCHAR_TYPE unsigned short
 #define U_SHOW_CPLUSPLUS_API 0
 #define U_SHOW_CPLUSPLUS_HEADER_API 0
@@ -17,6 +17,8 @@
 #include <iostream>
 #include <new>
 #include <stdexcept>
+
+#include "lib/ascii.h"
 
 namespace {
 
@@ -89,15 +91,6 @@ void AppendFill(Unit*& block, unsigned long& length, unsigned long& capacity, Un
 
 void Warn(char const* what, UErrorCode status, int line) {
     std::cerr << what << static_cast<int>(status) << " at line " << line << std::endl;
-}
-
-// Without a branch for each byte, so that the compiler looks at many at once.
-bool IsAscii(char const* s, unsigned long length) {
-    unsigned char bits = 0;
-    for (unsigned long i = 0; i < length; ++i) {
-        bits = static_cast<unsigned char>(bits | s[i]);
-    }
-    return bits < 0x80;
 }
 
 // Result: how far both are equal, in whole machine words.
@@ -299,6 +292,7 @@ ustring& ustring::assign(ustring const& s, unsigned long pos, unsigned long n) {
         const ustring part = substr(pos, n);
         return assign(part, 0, npos);
     }
+    s.check(pos);
     clear();
     return append(s, pos, n);
 }
@@ -346,6 +340,9 @@ ustring& ustring::assign(unsigned short const* s, unsigned long n) {
 }
 
 ustring& ustring::assign(std::string const& s, unsigned long pos, unsigned long n) {
+    if (pos > s.size()) {
+        throw std::out_of_range("basic_string::substr");
+    }
     clear();
     return append(s, pos, n);
 }
