@@ -176,6 +176,7 @@ TEST(Launcher, RunsOneAtATime) {
     EXPECT_TRUE(EndedWell(world.Run()));
     const std::vector<std::string> locks = world.Locks();
     ASSERT_EQ(locks.size(), 1u);
+    EXPECT_TRUE(Contains(locks[0], "-" + std::to_string(getuid()) + ".lock"));
     fs::remove(locks[0]);
     WriteFile(locks[0], world.dir.path());
     ASSERT_TRUE(getuid() != 0 || chown(locks[0].c_str(), kLoner, kLoner) == 0);
