@@ -1,4 +1,4 @@
-// The owner of a block from malloc.
+// An owner of memory from malloc.
 #pragma once
 
 #include <cstdlib>

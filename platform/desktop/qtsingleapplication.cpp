@@ -1,4 +1,4 @@
-// The single instance, by a lock file.
+// Detects a running instance by a lock file.
 #include "platform/desktop/qtsingleapplication.h"
 
 #include <unistd.h>
