@@ -16,7 +16,7 @@ constexpr int kAppName = 365;               // app_name
 void InitStrTable();
 
 // Returns the text with this id, from 0 to 525, translated by the installed translator. Replaces
-// \\n by a newline and \\t by a tab, and keeps placeholders such as %1. Any thread after
+// "\n" by a newline and "\t" by a tab, and keeps placeholders such as %1. Any thread after
 // InitStrTable.
 QString LoadStr(int id);
 
