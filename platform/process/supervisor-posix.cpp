@@ -22,7 +22,7 @@ constexpr int kNoLimit = -1;
 
 struct Report {
     Stage stage = Stage::kStarted;
-    char backups = 0;
+    unsigned char backups = 0;
 };
 
 struct End {
@@ -176,7 +176,7 @@ int Supervise(int (*launcher)(const Attempt&, int, char**), int argc, char** arg
     }
 }
 
-void ReportStage(Stage stage, char backups) {
+void ReportStage(Stage stage, unsigned char backups) {
     g_stage = stage;
     if (stage == Stage::kReady) {
         std::atexit(ExitInTheRun);

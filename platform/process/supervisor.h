@@ -56,4 +56,4 @@ int Supervise(int (*launcher)(const Attempt& attempt, int argc, char** argv), in
 // backups the upgrade uses, up to that of the old copy. From kReady until kOpened, exit(3) becomes
 // _exit(2): a library that ends the process must not destroy static objects under the worker
 // thread. Any thread, in the order of the stages.
-void ReportStage(Stage stage, char backups = 0);
+void ReportStage(Stage stage, unsigned char backups = 0);

@@ -65,8 +65,8 @@ class QpkTest : public testing::Test {
         shell.setWorkingDirectory(QString::fromStdString(dir_.path()));
         shell.start("bash", {"-c", QString::fromStdString("Q=" QPK "; " + line)});
         shell.waitForFinished(60000);
-        const Result result{shell.exitCode(), shell.readAllStandardOutput().toStdString(),
-                            shell.readAllStandardError().toStdString()};
+        Result result{shell.exitCode(), shell.readAllStandardOutput().toStdString(),
+                      shell.readAllStandardError().toStdString()};
         EXPECT_FALSE(Contains(result.err, "TEXT")) << result.err;
         return result;
     }

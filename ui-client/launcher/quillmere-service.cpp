@@ -241,7 +241,7 @@ int Service::PrepareUserEnv() {
     if (may_be_there && BackUp(app, backup, index) != 0) {
         return -1;
     }
-    const char backups = static_cast<char>(index + 1);
+    const auto backups = static_cast<unsigned char>(index + 1);
     if (may_be_there) {
         ReportStage(Stage::kMoved, backups);
     }
