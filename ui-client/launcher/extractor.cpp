@@ -17,8 +17,6 @@
 namespace {
 
 constexpr std::size_t kBlockSize = 10240;
-constexpr std::size_t kLongestPath =
-    PATH_MAX - 8;  // the name of a backup is longer than that of the copy
 const ustring kLogComponent("extractor_debug");
 
 // UNLINK replaces an existing file instead of writing into it, and NODOTDOT refuses "..". Owner,
@@ -53,9 +51,9 @@ archive_entry* NextEntry(archive* reader) {
     return archive_read_next_header(reader, &entry) == ARCHIVE_OK ? entry : nullptr;
 }
 
-// The file layer must be able to remove the copy, and refuses some names that libarchive accepts.
-bool CanBeRemoved(const ustring& path) {
-    return ustring::is_valid(path) && path.length() < kLongestPath;
+// libarchive also accepts names that the file layer refuses, and paths that no system call accepts.
+bool IsUsable(const ustring& path) {
+    return ustring::is_valid(path) && path.length() < PATH_MAX;
 }
 
 // Calls archive_read_next_header. Also fails if the number of entries has changed since Count(),
@@ -121,7 +119,7 @@ int Extractor::ExtractEntries(int total, archive* reader, archive* writer) {
             return -1;
         }
         const char* const path = archive_entry_pathname(entry);
-        if (path == nullptr || !CanBeRemoved(prefix + path)) {
+        if (path == nullptr || !IsUsable(prefix + path)) {
             Logger::LogMsg(LOG_LINE(ERROR, "archive_entry_pathname failed"));
             return -1;
         }
