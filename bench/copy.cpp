@@ -1,4 +1,4 @@
-// A copy of a tree, both sides in one program, so that both take as long to start:
+// Copies a tree. Both sides are in one program, so that they start equally fast:
 //
 //     bench-copy ours FROM TO
 //     bench-copy plain FROM TO    read, write and fsync each file

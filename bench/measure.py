@@ -1,17 +1,16 @@
-"""Runs processes in turn, and prints what they spent."""
+"""Runs processes in turn, and prints what they use."""
 import collections
 import os
 import statistics
 import sys
 import time
 
-# Seconds and bytes. The last three are what the preloaded bench-probe tells; the marks are pairs of a
-# name and a time since the start.
+# Seconds and bytes. The last three come from bench-probe; the marks are pairs of a name and a time since the start.
 Spent = collections.namedtuple("Spent", "wall cpu flush memory marks", defaults=(0, 0, ()))
 
 
 def run(*command, probe=None, **environment):
-    """Runs a program to its end, which must be a good one, with nothing on its streams."""
+    """Runs a program without streams. It must succeed."""
     variables = {**os.environ, **environment}
     if probe:
         variables.update(LD_PRELOAD=probe, BENCH_PROBE="probe.txt")
@@ -34,13 +33,13 @@ def read_probe(start):
 
 
 def together(*parts):
-    """Several processes, one after the other, as one side."""
+    """Several processes in sequence, as one side."""
     return Spent(*(sum(values) for values in zip(*(part[:3] for part in parts))))
 
 
 def in_turn(rounds, warm_up=True, **sides):
-    """Runs all sides in each round, in one order and the other by turns, after one round that does
-    not count, if that is wanted. Result: for each side its list of Spent."""
+    """Runs all sides in each round, in alternating order, after an optional round that does not count.
+    Result: a list of Spent for each side."""
     spent = {name: [] for name in sides}
     for turn in range(-1 if warm_up else 0, rounds):
         for name in sorted(sides, reverse=turn % 2 == 1):
@@ -59,7 +58,7 @@ def text_of(value, unit):
 
 
 class Table:
-    """One line for each thing that was measured."""
+    """One line for each measurement."""
     HEAD = ("row", "what", "ours", "peer", "ratio", "middle half", "target", "", "the peer")
 
     def __init__(self):
@@ -67,8 +66,8 @@ class Table:
         self.missed = False
 
     def add(self, row, what, ours, peer, unit, name, target=None, most=None, above=None):
-        """`ours` and `peer` are values by round. The target is a ratio, or `most` for the value of
-        ours, or `above` for how far it may lie above the peer's."""
+        """`ours` and `peer` are values by round. The target is a ratio, `most` for the value of ours,
+        or `above` for its difference from the peer."""
         ratios = [a / b for a, b in zip(ours, peer)]
         mine, other, ratio = map(statistics.median, (ours, peer, ratios))
         low, _, high = statistics.quantiles(ratios, n=4) if len(ratios) > 1 else (ratio,) * 3

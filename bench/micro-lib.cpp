@@ -1,4 +1,4 @@
-// The log, the configuration reader and the file layer, beside what does the same elsewhere.
+// Logger, Config and the file layer, and their peers.
 #include <spdlog/sinks/rotating_file_sink.h>
 #include <spdlog/spdlog.h>
 #include <sys/stat.h>
@@ -24,19 +24,19 @@ namespace fs = std::filesystem;
 constexpr int kLogSize = 1048576;
 constexpr int kLogFiles = 49;
 constexpr int kSettings = 5000;
-// More files than QSettings keeps parsed, so that each is read anew.
+// More files than QSettings caches.
 constexpr int kSettingsFiles = 64;
 
 const ustring log_component("file_op_debug");
 
-// As a user has it: no component is turned up, and warnings pass.
+// The default levels.
 void SetUpOurLog() {
     std::ofstream("levels") << "launcher_debug=4\nservice_debug=4\nextractor_debug=4\n"
                                "file_op_debug=4\n";
     Logger::Initialize(Logger::TYPE_FILE, "ours.log", "levels", kLogFiles + 1);
 }
 
-// The same line, flushed each time, and the same rotation.
+// The same line, flush and rotation.
 std::shared_ptr<spdlog::logger> PeersLog() {
     static const auto log = [] {
         const auto made = spdlog::rotating_logger_mt("peer", "peer.log", kLogSize, kLogFiles);
@@ -86,7 +86,7 @@ void RegisterConfig() {
             out << "key_" << line << "=value-" << line * 31 << "\n";
         }
     }
-    // Both have a map from each key to its value in the end.
+    // Both produce a map of all values.
     Row(
         "config",
         [file = 0]() mutable {
@@ -105,7 +105,7 @@ void RegisterConfig() {
         });
 }
 
-// An existing path of so many components: one above the working directory, or below it.
+// An existing path with this number of components.
 std::string PathOfDepth(int depth) {
     fs::path path;
     for (const fs::path& component : fs::current_path()) {
@@ -141,7 +141,7 @@ void RegisterFileInfo() {
     }
 }
 
-// Moves a tree of so many files to and fro.
+// Renames a tree with this number of files, and back.
 auto Moving(int files) {
     const std::string name = "tree" + std::to_string(files);
     fs::create_directories(name);

@@ -1,4 +1,4 @@
-// The micro-benchmarks, with Google Benchmark's own options. Files are made in the working
+// The micro-benchmarks, with the options of Google Benchmark. They create files in the working
 // directory.
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-// The string table beside Qt's translation without it.
+// The string table, and Qt's translation without it.
 #include <QCoreApplication>
 #include <QTranslator>
 

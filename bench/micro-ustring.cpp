@@ -1,4 +1,4 @@
-// The string type beside std::string, and beside ICU's own for what Unicode is about.
+// ustring, std::string, and ICU's strings for Unicode.
 #include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
 
@@ -14,7 +14,7 @@ constexpr char kDirectory[] = "/home/user/.Quillmere/Quillmere.app/Contents/Reso
 constexpr char kPath[] = "/home/user/.Quillmere/Quillmere.app/Contents/Resources/INFO";
 constexpr char kOther[] = "/home/user/.Quillmere/Quillmere.app/Contents/Resources/INFP";
 constexpr char kName[] = "quillmere-ui";
-// German and French decomposed, Japanese, and ASCII about them.
+// Decomposed German and French, Japanese, and ASCII.
 constexpr char kMixed[] =
     "/home/u\xCC\x88ser/Pre\xCC\x81sentation/\xE8\xB3\x87\xE6\x96\x99/Gro\xCC\x88\xC3\x9F"
     "e/\xE3\x83\x95\xE3\x82\xA1\xE3\x82\xA4\xE3\x83\xAB.txt";
@@ -50,7 +50,7 @@ std::string ComposedByIcu(const char* text) {
 }
 
 void RegisterComposing(const std::string& name, const char* text) {
-    // A fresh text each time: the UTF-16 view would be there already.
+    // A new text each time, without a cached UTF-16 text.
     Row(
         name, [text] { return ustring(text).normalize(ustring::NFC); },
         [text] { return ComposedByIcu(text); });

@@ -1,11 +1,11 @@
-// Rows of the micro-benchmarks: something of ours beside a peer, to be run in turn.
+// Rows of the micro-benchmarks: ours and a peer.
 #pragma once
 
 #include <benchmark/benchmark.h>
 
 #include <string>
 
-// Runs `work` in the timed loop. What it returns is taken for used.
+// Runs `work` in the timed loop, and uses its result.
 template <class Work>
 auto Timed(Work work) {
     return [work](benchmark::State& state) mutable {
@@ -15,7 +15,7 @@ auto Timed(Work work) {
     };
 }
 
-// Registers "<name>/ours" and "<name>/peer", which the driver pairs by these names.
+// Registers "<name>/ours" and "<name>/peer", which run.py compares.
 template <class Ours, class Peer>
 void Row(const std::string& name, Ours ours, Peer peer, int threads = 1) {
     for (benchmark::internal::Benchmark* const side :

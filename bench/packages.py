@@ -1,4 +1,4 @@
-"""Trees of files, packages of them, and bundles with these."""
+"""Trees of files, packages and bundles."""
 import io
 import os
 import pathlib
@@ -23,7 +23,7 @@ def remove(path):
 
 
 def once(path, make):
-    """Has `make` fill a new directory, which takes the name `path` when it is whole."""
+    """Calls `make` for a new directory, and renames it to `path` when it is complete."""
     if not path.exists():
         part = path.with_name(path.name + ".part")
         remove(part)
@@ -34,7 +34,7 @@ def once(path, make):
 
 
 def choose(files, size, source="/usr"):
-    """So many files of the machine, and about so many bytes: always the same ones."""
+    """Files of this machine, with this number and size, always the same ones."""
     found = []
     for directory, names, leaves in os.walk(source):
         names.sort()
@@ -53,7 +53,7 @@ def choose(files, size, source="/usr"):
 
 
 def client(tree):
-    """What every client has; it ends at once when it is opened."""
+    """The files of every client, which exits immediately."""
     for path in (EXECUTABLE, INFO):
         (tree / path).parent.mkdir(parents=True, exist_ok=True)
     shutil.copy("/bin/true", tree / EXECUTABLE)
@@ -76,7 +76,7 @@ def small_files(tree, files, bytes_each=1000, in_one=100):
 
 
 def pack(tree, package, form):
-    """The package of a client's tree; its INFO is the last entry."""
+    """A package of a client's tree, with INFO as the last entry."""
     entries = sorted(path.relative_to(tree).as_posix() for path in tree.rglob("*"))
     entries.remove(INFO)
     part = package.with_name("part")
@@ -87,7 +87,7 @@ def pack(tree, package, form):
 
 
 def pack_entries(package, names):
-    """A package of a client with empty files of these names, without a tree for them."""
+    """A package of a client with empty files of these names."""
     with open(package, "wb") as out:
         zstd = subprocess.Popen(["zstd", "-q", "-c"], stdin=subprocess.PIPE, stdout=out)
         with tarfile.open(fileobj=zstd.stdin, mode="w|", format=tarfile.PAX_FORMAT) as tar:
@@ -104,7 +104,7 @@ def pack_entries(package, names):
 
 
 def bundle(app, launcher, plugins, icon, package=None):
-    """A bundle around the package. Result: its launcher."""
+    """A bundle with the package. Result: its launcher."""
     contents = pathlib.Path(app) / "Contents"
     remove(app)
     for directory in ("MacOS", "Frameworks/plugins", "Resources/package", "Resources/images"):

@@ -1,10 +1,8 @@
-// A library to preload (ld.so(8)) that tells what a process spent, on the file that $BENCH_PROBE
-// names:
+// A library to preload (ld.so(8)). Writes what a process used to the file $BENCH_PROBE:
 //
 //     flush NANOSECONDS    in calls that wait for the disk
-//     memory KIBIBYTES     the most that it had in memory: wait4(2) counts its parent's too
-//     AT NAME              when the process came to a point of its run, in nanoseconds of
-//                          CLOCK_MONOTONIC; NAME is that of the phase that begins there
+//     memory KIBIBYTES     peak memory; wait4(2) includes that of the parent
+//     AT NAME              nanoseconds of CLOCK_MONOTONIC at the start of the phase NAME
 #include <dlfcn.h>
 #include <spawn.h>
 #include <unistd.h>
@@ -74,7 +72,7 @@ long PeakMemory() {
     return peak;
 }
 
-// What is started from here is no part of the measurement.
+// Processes started from here do not belong to the measurement.
 const char* TakeOutput() {
     unsetenv("LD_PRELOAD");
     return std::getenv("BENCH_PROBE");
@@ -119,7 +117,7 @@ int __libc_start_main(int (*main)(int, char**, char**), int argc, char** argv, v
                                                         stack);
 }
 
-// The child does the work, and reports.
+// The child process works and reports.
 pid_t fork() noexcept {
     const pid_t child = Real(fork, "fork")();
     if (child > 0) {
@@ -138,7 +136,7 @@ int posix_spawn(pid_t* child, const char* path, const posix_spawn_file_actions_t
     return result;
 }
 
-// Qt's functions that a phase begins or ends with, under their names in the C++ ABI.
+// Qt's functions at the limits of phases, by their names in the C++ ABI.
 
 // QApplication::QApplication(int&, char**, int)
 void _ZN12QApplicationC2ERiPPci(void* self, int& argc, char** argv, int version) {

@@ -1,4 +1,4 @@
-// A removal of a tree:
+// Removes a tree:
 //
 //     bench-remove ours TREE
 //     bench-remove standard TREE    std::filesystem's

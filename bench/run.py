@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Prints how fast this program is beside its peers; started by scripts/bench.
+"""Compares the speed of the launcher with its peers; started by scripts/bench.
 
     run.py BUILD_DIRECTORY PLUGINS [ROW...]
 
 A ROW is the name of a group or the beginning of a row's name. Without one all rows run but those of
 the group "scale", which take long. Everything is written below the working directory. The exit
-status is 1 when a target is missed."""
+status is 1 if a target is missed."""
 import contextlib
 import itertools
 import json
@@ -24,7 +24,7 @@ SOURCE = pathlib.Path(__file__).resolve().parent.parent
 ICON = str(SOURCE / "bundle/ico_72_quillmere.png")
 WORK = pathlib.Path.cwd()
 
-# Of the micro-benchmarks by the beginning of the name: the peer, and the target.
+# Micro-benchmarks by the beginning of their names: peer and target.
 MICRO = {
     "string": ("std::string", {}),
     "utf16": ("ICU's UnicodeString", {}),
@@ -60,7 +60,7 @@ class Bench:
     # Installing and upgrading
 
     def launch(self, launcher, old=None, place=WORK, **environment):
-        """The launcher with an empty home, or one with a copy of the tree `old` in it."""
+        """The launcher with an empty home, or one with a copy of the tree `old`."""
         with fresh_directory("home", place) as home:
             if old:
                 (home / ".Quillmere").mkdir()
@@ -75,7 +75,7 @@ class Bench:
         return spent
 
     def unpack(self, package, old=None, place=WORK):
-        """The peer of an upgrade: the same two passes, the flush, and the old copy removed."""
+        """The peer of an upgrade: the same two passes, the flush, and the removal of the old copy."""
         with fresh_directory("peer", place) as target:
             if old:
                 install_old(old, target / "old")
@@ -96,7 +96,7 @@ class Bench:
             packages.pack(tree, package, form)
         launcher = self.bundle(package)
         old_tree = tree if old else None
-        package.read_bytes()  # is warm-up enough: programs and libraries have run before
+        package.read_bytes()  # warm-up; programs and libraries have run before
         self.bare()
         run("bsdtar", "--version")
         spent = in_turn(
@@ -121,15 +121,14 @@ class Bench:
                        "a bare QApplication", above=8 * MIB)
 
     def growth_row(self, row="growth"):
-        """Time and memory over the number of entries."""
+        """Time and memory by the number of entries."""
         if not self.wants(row):
             return
         times, entries = {}, (0, 1000, 10000, 100000)
         for count in entries:
             package = packages.pack_entries(WORK / "entries.zst", entry_names(count))
             launcher = self.bundle(package)
-            # What the disk does is no part of this row: ext4 is slow to make many files where others
-            # were removed just before.
+            # Without the disk: ext4 is slow to create files where others were just removed.
             with scratch() as place:
                 spent = in_turn(5, ours=lambda: self.launch(launcher, place=place, probe=self.probe),
                                 bare=lambda: self.bare(self.probe), peer=lambda: self.unpack(package, place=place))
@@ -152,8 +151,7 @@ class Bench:
             return
         tree = packages.once(WORK / "little", packages.client)
         launcher = self.bundle()
-        # What the disk does is no part of this row: ext4 is slow to make files where others, such as a
-        # lock, were removed just before.
+        # Without the disk: ext4 is slow to create files where others, such as a lock file, were just removed.
         with scratch() as place, fresh_directory("home", place) as home:
             os.environ["TMPDIR"] = str(place)
             installed = packages.once(home / ".Quillmere/Quillmere.app", packages.client)
@@ -174,7 +172,7 @@ class Bench:
     def phases(self, row, runs):
         lengths = {}
         for one in runs:
-            # Some points are come to more than once: the last time counts.
+            # A point may be reached several times; the last one counts.
             marks = sorted(dict(one.marks).items(), key=lambda mark: mark[1])
             begins = [("dynamic linking", 0)] + marks
             for (name, begin), end in zip(begins, [mark[1] for mark in marks] + [one.wall]):
@@ -237,7 +235,7 @@ class Bench:
         if not wanted:
             return
         times = {}
-        # What the disk does is no part of these rows.
+        # Without the disk.
         with scratch() as above, fresh_directory("micro", above) as place:
             command = [self.tool("bench-micro"), "--benchmark_format=json", "--benchmark_min_time=0.1",
                        f"--benchmark_filter=^({'|'.join(wanted)})"]
@@ -290,8 +288,8 @@ class Bench:
 
 @contextlib.contextmanager
 def fresh_directory(name, place=WORK, numbers=itertools.count(1)):
-    """A new directory for a while, under a name that was not there before: ext4 is slow to make files
-    where some were removed within the last minutes."""
+    """A temporary directory with a new name, because ext4 is slow to create files where others were
+    removed minutes ago."""
     path = place / f"{name}-{next(numbers)}"
     path.mkdir()
     try:
@@ -310,7 +308,7 @@ def make_old(app):
 
 
 def settle(path):
-    """What was prepared is on the disk: nobody measured pays for it."""
+    """Flushes prepared files, so that no measurement includes them."""
     subprocess.run(["sync", "-f", path], check=True)
 
 
@@ -340,7 +338,7 @@ def tmpfs(place):
 
 @contextlib.contextmanager
 def scratch():
-    """A directory on a tmpfs, if there can be one."""
+    """A directory on a tmpfs, if possible."""
     with tmpfs(WORK / "tmpfs") as usable:
         yield WORK / "tmpfs" if usable else WORK
 

@@ -1,8 +1,8 @@
-// What a start of the launcher is measured by:
+// The peers of a start of the launcher:
 //
-//     bench-window bare                         an application object, and out
-//     bench-window same ICON INFO COPY CLIENT   also the same window, both versions read, and the
-//                                               client started
+//     bench-window bare                         only an application object
+//     bench-window same ICON INFO COPY CLIENT   also shows the window, reads both versions and
+//                                               starts the client
 #include <QApplication>
 #include <QFont>
 #include <QIcon>

@@ -9,7 +9,7 @@ target_compile_options(quillmere-build INTERFACE -Wall -Wextra -Wpedantic -Wshad
                        $<$<BOOL:${QUILLMERE_WERROR}>:-Werror>)
 include(Hardening)
 quillmere_harden(quillmere-build)
-# No path of the machine that builds is in what it builds. The last match counts.
+# Removes paths of this machine from the output. The last match counts.
 target_compile_options(quillmere-build INTERFACE
   -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=./build)
 

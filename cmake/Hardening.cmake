@@ -1,4 +1,4 @@
-# What `dpkg-buildflags` sets with hardening=+all, as far as the compiler and the linker have it.
+# The flags of `dpkg-buildflags` with hardening=+all that the compiler and the linker support.
 include(CheckCXXCompilerFlag)
 include(CheckLinkerFlag)
 include(CheckPIESupported)
@@ -6,20 +6,20 @@ include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
-# quillmere_harden(<interface library>): for all that links it. Sanitizers bring their own checks, which these would
-# hide.
+# quillmere_harden(<interface library>): for all targets that link it. Sanitizers have their own
+# checks, which these flags would hide.
 function(quillmere_harden target)
   target_compile_options(${target} INTERFACE -Wformat -Werror=format-security -Wdate-time)
   if(QUILLMERE_SANITIZE)
     return()
   endif()
-  # The last two exist for one family of processors each.
+  # The last two are for one processor family each.
   foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection -mbranch-protection=standard)
     string(MAKE_C_IDENTIFIER QUILLMERE_HAS${flag} known)
     check_cxx_compiler_flag(${flag} ${known})
     target_compile_options(${target} INTERFACE $<$<BOOL:${${known}}>:${flag}>)
   endforeach()
-  # The C library checks in optimised code only. Some compilers set a level of their own.
+  # The C library checks optimized code only. Some compilers set their own level.
   target_compile_options(${target} INTERFACE
     $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE$<SEMICOLON>-D_FORTIFY_SOURCE=2>)
   foreach(flag relro now)

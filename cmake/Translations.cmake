@@ -1,9 +1,9 @@
-# The resource collection `texts`: one .qm for each .ts file, compiled into the program.
+# The resource collection `texts`, with a .qm for each .ts file.
 
 # quillmere_add_texts(<library> <directory of the .ts files>)
 #
-# Makes a library of the collection; who links it calls qInitResources_texts(). The four languages whose texts do
-# not shrink much are stored plain, the others compressed by zlib.
+# Makes a library of the collection. Programs call qInitResources_texts(). Four languages are stored uncompressed, because
+# compression saves little; the others are compressed by zlib.
 function(quillmere_add_texts library directory)
   set(plain chs cht jpn krn)
   file(GLOB sources CONFIGURE_DEPENDS ${directory}/*.ts)
@@ -27,7 +27,7 @@ function(quillmere_add_texts library directory)
   set(qrc ${CMAKE_CURRENT_BINARY_DIR}/texts/texts.qrc)
   file(CONFIGURE OUTPUT ${qrc} CONTENT "<RCC>\n  <qresource prefix=\"/\">\n@entries@  </qresource>\n</RCC>\n" @ONLY)
   set(collection ${CMAKE_CURRENT_BINARY_DIR}/texts/qrc_texts.cpp)
-  # Version 1 of the format: later ones store time stamps, and default to another compression.
+  # Version 1 of the format has no time stamps, and zlib as its default.
   add_custom_command(
     OUTPUT ${collection}
     COMMAND Qt${QUILLMERE_QT}::rcc --format-version 1 --name texts --output ${collection} ${qrc}

@@ -1,4 +1,4 @@
-// What Config accepts reads the same when it is written again.
+// Config reads the same values after they are written again.
 #include <sys/mman.h>
 #include <unistd.h>
 
@@ -20,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const int result = Read(config, std::string(reinterpret_cast<const char*>(data), size));
     std::string again;
     for (const auto& [key, text] : config) {
-        // Between quotes where it must be. No value that was read needs both kinds.
+        // With quotes if necessary. No value needs both kinds.
         const std::string value = text.c_str();
         const bool plain =
             value.find_first_of("\"'") != 0 && value.find_first_of(' ') == value.npos;

@@ -1,4 +1,4 @@
-// Any bytes as a package: what was written can be removed again, as a rollback must.
+// Extracts any bytes as a package, and removes the files as a rollback does.
 #include <sys/mman.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -15,7 +15,7 @@
 #include "ui-client/launcher/str-table.h"
 #include "unique-fd.h"
 
-// A package is trusted with its links, and this one might write anywhere through them.
+// Refuses links, because a package may write anywhere through them.
 static bool HasLinks(const std::string& package) {
     const ArchiveReader reader(archive_read_new());
     archive_read_support_filter_all(reader.get());
@@ -30,7 +30,7 @@ static bool HasLinks(const std::string& package) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    // The largest files are holes. The fuzzer has a handler of its own for the signal until now.
+    // The largest files are holes. Replaces the fuzzer's handler of the signal.
     const rlimit of_a_file{1 << 24, 1 << 24};
     setrlimit(RLIMIT_FSIZE, &of_a_file);
     std::signal(SIGXFSZ, SIG_IGN);

@@ -1,4 +1,4 @@
-// ustring and the path splitters against std::string.
+// Compares ustring and the path functions with std::string.
 #include <fuzzer/FuzzedDataProvider.h>
 
 #include <algorithm>
@@ -20,7 +20,7 @@ void Check(bool holds) {
 
 void CheckSearches(const ustring& text, const std::string& model, const std::string& set,
                    unsigned long pos) {
-    // Where the two differ: at the end of the text there is nothing to be found.
+    // They differ at the end of the text, where ustring finds nothing.
     const bool forward = pos < model.size();
     const unsigned long back = model.empty() ? 0 : std::min(pos, model.size() - 1);
     const auto none = ustring::npos;
@@ -40,7 +40,7 @@ void CheckPaths(const std::string& path, const std::string& other) {
     Check(FSIsParentFolder(other, path) == (path == other || path.rfind(other + "/", 0) == 0));
 }
 
-// One change of both. The UTF-16 view is asked for, so that it must follow the changes.
+// Changes both. Fills the UTF-16 text, so that it must follow the changes.
 void Change(ustring& text, std::string& model, int step, unsigned char byte,
             const std::string& other) {
     const char character = static_cast<char>(byte | 1);
@@ -75,7 +75,7 @@ void Change(ustring& text, std::string& model, int step, unsigned char byte,
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    std::cerr.rdbuf(nullptr);  // what is not UTF-8 is told there
+    std::cerr.rdbuf(nullptr);  // ignores warnings about texts that are not UTF-8
     FuzzedDataProvider input(data, size);
     ustring text;
     std::string model;

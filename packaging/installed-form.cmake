@@ -1,11 +1,11 @@
-# Run by CPack before it packs.
+# CPack runs it before packing.
 
-# Directories that only lead to what is installed have the umask of the builder.
+# CPack creates parent directories with the builder's umask.
 execute_process(COMMAND find ${CPACK_TEMPORARY_DIRECTORY} -type d -exec chmod 755 {} + COMMAND_ERROR_IS_FATAL ANY)
 
-# The form that Debian asks for.
+# Debian's policy.
 if(CPACK_GENERATOR STREQUAL "DEB")
-  # Links are relative within /usr. In a tar, which may be unpacked anywhere, they stay absolute.
+  # Links within /usr are relative. In the tar, which may be unpacked anywhere, they stay absolute.
   file(GLOB links LIST_DIRECTORIES true
        ${CPACK_TEMPORARY_DIRECTORY}/quillmere/usr/lib/quillmere/Quillmere.app/Contents/Frameworks/plugins/*)
   foreach(link IN LISTS links)
@@ -17,7 +17,7 @@ if(CPACK_GENERATOR STREQUAL "DEB")
       file(CREATE_LINK ${relative} ${link} SYMBOLIC)
     endif()
   endforeach()
-  # The names of the compiler and of the linker; the rest of the symbols went with the installation.
+  # Removes the names of compiler and linker. The installation has removed the symbols.
   file(GLOB programs ${CPACK_TEMPORARY_DIRECTORY}/quillmere/usr/lib/quillmere/Quillmere.app/Contents/MacOS/*
        ${CPACK_TEMPORARY_DIRECTORY}/qpk/usr/bin/* ${CPACK_TEMPORARY_DIRECTORY}/qpk/usr/lib/qpk/launcher)
   execute_process(COMMAND ${CPACK_STRIP} --remove-section=.comment --remove-section=.note ${programs}

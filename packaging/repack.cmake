@@ -1,10 +1,10 @@
-# Run by CPack when it has packed: makes each package anew, in a form that depends on its content only.
+# CPack runs it after packing. Packs each package again, so that the bytes depend only on the content.
 if(CPACK_GENERATOR STREQUAL "DEB")
   foreach(package IN LISTS CPACK_PACKAGE_FILES)
     execute_process(COMMAND ${CMAKE_CURRENT_LIST_DIR}/repack-deb ${package} COMMAND_ERROR_IS_FATAL ANY)
   endforeach()
 elseif(CPACK_GENERATOR STREQUAL "TGZ")
-  # CPack's own has the order of the file system and the builder's name.
+  # CPack uses the order of the file system and the builder's name.
   get_filename_component(tree ${CPACK_TEMPORARY_DIRECTORY} NAME)
   get_filename_component(directory ${CPACK_TEMPORARY_DIRECTORY} DIRECTORY)
   execute_process(

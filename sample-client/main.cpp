@@ -1,5 +1,4 @@
-// A small client that stands where a real one will: a window with its version, a pid file, a clean
-// end.
+// A small example of a client: a window with its version, a pid file, a clean exit.
 //
 //     quillmere-ui [--ignore-sigterm]
 #include <fcntl.h>
@@ -26,7 +25,7 @@ namespace {
 
 int signal_pipe[2];
 
-// Only a write is allowed in a signal handler (signal-safety(7)); the event loop does the rest.
+// A signal handler may only write (signal-safety(7)); the event loop does the rest.
 void OnTerminate(int) {
     const char byte = 0;
     [[maybe_unused]] const ssize_t written = write(signal_pipe[1], &byte, 1);
@@ -45,7 +44,7 @@ QString UserDirectory() {
     return QDir::homePath() + "/" + layout::kUserDirectory;
 }
 
-// Present while the client runs, and never seen half written: QSaveFile renames it into place.
+// Exists while the client runs. QSaveFile writes it atomically.
 class PidFile {
   public:
     PidFile() : path_(UserDirectory() + "/" + layout::kPidFile) {

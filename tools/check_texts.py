@@ -19,12 +19,12 @@ CJK = {"chs", "cht", "jpn", "krn"}
 PREPARING, READY = "Quillmere Drive is initializing...", "Quillmere Drive is ready."
 FONT_MARKS = ["[DlgTitleFont]", "{\\VerdanaBold13}", "{\\DlgFont8}"]
 MARKS = ["%1", "[ProductName]", "\\n", "\\t", "home\\Quillmere", *FONT_MARKS]
-# A character that the one script's national set lacks and the other's has.
+# Characters that only one of the two scripts has.
 OWN_SET = {"chs": "gb2312", "cht": "big5"}
-# Terms of the glossary whose word stands in every text about them, the same in all cases, and names not to be used.
+# Terms of the glossary that every text about them uses unchanged, and names that no text may use.
 TERMS = ["verification code"]
 BANNED = ["OTP"]
-# A remark in brackets has its stop inside ("One. (Two.)") or behind it ("One (two)."), not between two.
+# A remark in brackets has its full stop inside ("One. (Two.)") or after it ("One (two)."), not before and after.
 STOP_ON_BOTH_SIDES = re.compile(r"[.。]\s*[(（][^()（）]*[)）]\u200b?[.。]")
 NATIVE = {
     "jpn": r"[\u3040-\u30ff\u4e00-\u9fff]", "krn": r"[\uac00-\ud7a3]", "rus": r"[\u0400-\u04ff]",
@@ -38,14 +38,14 @@ def rows(name):
 
 
 def terms():
-    """Of each of TERMS the word of each language."""
+    """The word of each language for each of TERMS."""
     with GLOSSARY.open(encoding="utf-8", newline="") as file:
         glossary = {row["en"]: row for row in csv.DictReader(file, delimiter="\t", quoting=csv.QUOTE_NONE)}
     return {term: glossary[term] for term in TERMS}
 
 
 def load(path):
-    """Source to translation, in the order of the file, and the faults of its form."""
+    """Source to translation, in the order of the file, and the faults of the format."""
     texts, faults = {}, []
     root = ET.parse(path).getroot()
     contexts = root.findall("context")
@@ -65,7 +65,7 @@ def load(path):
 
 
 def ending(text):
-    """The kind of the sentence's end, whatever marks and quotes the script has for it."""
+    """The kind of the end of a sentence, for all marks and quotes."""
     text = re.sub(r"\(&[A-Z]\)", "", text).rstrip("\u200b\"”“」»』'’ \u00a0")
     if text.endswith("..."):
         return "..."
@@ -80,7 +80,7 @@ def accelerator_fault(code, source, text):
 
 
 def script_fault(code, text):
-    # What is left of a text that is names and marks only has no letters.
+    # A text with only names and placeholders has no letters left.
     rest = re.sub(r"\[\w+\]|\{\\\w+\}|&|%1|Quillmere Drive|home\\Quillmere", "", text)
     if code in NATIVE and re.search("[A-Za-z]", rest) and not re.search(NATIVE[code], rest):
         return "no letter of the language's script"

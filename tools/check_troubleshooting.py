@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Compares docs/troubleshooting.md with the program: each error and warning that can be logged stands on the page, and
-no other. Prints a line for each difference and ends with 1 if there are any."""
+"""Compares docs/troubleshooting.md with the program: the page must list each error and warning that can be logged, and no
+other. Prints a line for each difference, and then exits with 1."""
 import re
 import sys
 from pathlib import Path
@@ -31,9 +31,9 @@ def main():
     in_program = set(logged())
     on_page = set(re.findall(r"`(\[(?:ERROR|WARNING)\] .*?)`", PAGE.read_text(encoding="utf-8")))
     for line in sorted(in_program - on_page):
-        print(f"{PAGE.name}: does not tell of {line}")
+        print(f"{PAGE.name}: does not have {line}")
     for line in sorted(on_page - in_program):
-        print(f"{PAGE.name}: tells of what is never logged: {line}")
+        print(f"{PAGE.name}: has a line that is never logged: {line}")
     return 1 if in_program != on_page or not in_program else 0
 
 

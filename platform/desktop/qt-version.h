@@ -20,7 +20,7 @@ inline void EnableHighDpiScaling() {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
 }
 
-// A template, for the sake of programs without QGuiApplication.
+// A template, because some programs do not link QtGui.
 template <class Application>
 void DisableFallbackSessionManagement() {
     Application::setFallbackSessionManagementEnabled(false);

@@ -132,7 +132,7 @@ TEST(UstringConversionTest, GoesBothWaysAndNormalises) {
     EXPECT_EQ(Text(units), "aé漢😀");
     EXPECT_EQ(Utf16("aé漢😀"), u"aé漢😀");
     EXPECT_TRUE(ustring::is_valid("aé漢😀") && ustring::is_valid(""));
-    // Marks in another order, a syllable, and a ligature, which is no composed form.
+    // Marks in another order, a syllable, and a ligature, which has no composed form.
     const ustring source("e\u0301 \u00E9 \u00E2\u0323 \uAC01 \uFB01");
     const ustring decomposed = source.normalize(ustring::NFD);
     EXPECT_EQ(Text(source.normalize(ustring::NFC)), "\u00E9 \u00E9 \u1EAD \uAC01 \uFB01");
@@ -173,7 +173,7 @@ TEST(UstringSearchTest, EveryFamilyAndEveryKindOfNeedle) {
     }
 }
 
-// A NUL that lies inside the length hides what is behind it.
+// A NUL inside the text hides the rest of it.
 TEST(UstringSearchTest, NulInsideTheLength) {
     ustring s("ab-cd");
     s[2] = '\0';
