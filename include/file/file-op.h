@@ -26,7 +26,7 @@ struct _FILE_INFO_tag {
     ustring path;  // absolute, composed (NFC) and as the file system spells it, if it exists
     ustring name;  // last component of `path`
     int type = FS_TYPE_NONE;  // a symbolic link is FS_TYPE_LINK, whatever it leads to
-    long mtime = 0;           // seconds since the epoch
+    long mtime = 0;           // seconds since the epoch, or the nearest that a long can hold
     std::int64_t size = 0;    // bytes as the file system gives them, for every type
     bool exists = false;
     std::uint32_t uid = 0;

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -184,7 +185,7 @@ int GetFileInfo(ustring const& path, _FILE_INFO_tag& info) {
         return 0;
     }
     info.exists = true;
-    info.mtime = status.st_mtime;
+    info.mtime = static_cast<long>(std::clamp<std::int64_t>(status.st_mtime, LONG_MIN, LONG_MAX));
     info.size = status.st_size;
     info.uid = status.st_uid;
     info.gid = status.st_gid;

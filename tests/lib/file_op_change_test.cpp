@@ -1,8 +1,10 @@
 // Tests of what the file layer changes: copies, moves, directories made and trees removed.
+#include <fcntl.h>
 #include <sys/syscall.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstring>
 
 #include "file_op_support.h"
@@ -10,6 +12,7 @@
 namespace {
 std::size_t g_most = SIZE_MAX;  // bytes that one call reads, and more than one writes
 int g_write_error = 0;
+bool g_leave_holes = false;  // where zeros are written
 std::int64_t g_synced = 0;
 }  // namespace
 
@@ -18,6 +21,10 @@ extern "C" ssize_t read(int file, void* bytes, size_t size) {
 }
 
 extern "C" ssize_t write(int file, const void* bytes, size_t size) {
+    const char* const text = static_cast<const char*>(bytes);
+    if (g_leave_holes && std::all_of(text, text + size, [](char c) { return c == 0; })) {
+        return lseek(file, static_cast<off_t>(size), SEEK_CUR) < 0 ? -1 : static_cast<ssize_t>(size);
+    }
     errno = g_write_error;
     return errno != 0 ? -1 : syscall(SYS_write, file, bytes, std::min(size, g_most / 2));
 }
@@ -142,6 +149,40 @@ TEST_F(FileOp, RenameAcrossVolumes) {
             EXPECT_TRUE(ReadFile((fs::exists("a" / name) ? "a" : "b") / name) == content(i)) << i;
         }
         EXPECT_EQ(OpenDescriptors(), descriptors_);
+    });
+}
+
+// Sizes, times and inode numbers that take more than 32 bits, whatever the processor has.
+TEST_F(FileOp, MovesAndCountsLargeFiles) {
+    constexpr std::int64_t kSize = (4LL << 30) + 3, kTime = 5000000000;
+    const timespec times[] = {{kTime, 0}, {kTime, 0}};
+    const auto mount_volumes = [&] {
+        fs::create_directory("a");
+        if (!OwnMounts() || mount("", "dir", "tmpfs", 0, nullptr) || mount("", "empty", "tmpfs", 0, nullptr)) {
+            return false;
+        }
+        std::ofstream("dir/large").seekp(kSize - 3) << "end";
+        utimensat(AT_FDCWD, "dir/large", times, 0);
+        fs::create_directories("empty/upper");
+        fs::create_directories("empty/work");
+        // The numbers of what is in the lower directory have high bits.
+        return !mount("", "a", "overlay", 0, "lowerdir=dir,upperdir=empty/upper,workdir=empty/work,xino=on");
+    };
+    InChild(mount_volumes, [&] {
+        EXPECT_GT(Status("a/large").st_ino, UINT32_MAX);
+        _FILE_INFO_tag info;
+        EXPECT_EQ(GetFileInfo("a/large", info), 0);
+        EXPECT_EQ(info.size, kSize);
+        EXPECT_EQ(info.mtime, std::min<std::int64_t>(kTime, LONG_MAX));
+        g_leave_holes = true;
+        EXPECT_EQ(FSRename("a/large", "empty/large", false), 0);
+        std::ifstream file("empty/large");
+        std::string end;
+        file.seekg(kSize - 3) >> end;
+        EXPECT_EQ(end, "end");
+        EXPECT_EQ(fs::file_size("empty/large"), kSize);
+        EXPECT_EQ(FSRemove("a", false), -3);  // it is mounted, but empty now
+        EXPECT_TRUE(fs::is_empty("a"));
     });
 }
 

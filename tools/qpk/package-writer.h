@@ -1,7 +1,7 @@
 // Writing of packages.
 #pragma once
 
-#include <ctime>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -12,9 +12,12 @@ struct PackageOptions {
     std::string package;  // the file to be written
     // INFO of the package, in place of one that the client's directory has; that one if not set.
     std::optional<VersionInfo> version;
-    int level = 9;         // of zstd
-    std::time_t time = 0;  // of all entries
+    int level = 9;          // of zstd
+    std::int64_t time = 0;  // of all entries, 0 to LatestTime()
 };
+
+// The highest time that an entry can have on this system, in seconds since the epoch.
+std::int64_t LatestTime();
 
 // Packs a client into a pax tar compressed by zstd. The entries are in path order, but INFO is the
 // last: a copy that was cut short has no version and is replaced at the next start.
