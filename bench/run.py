@@ -118,7 +118,7 @@ class Bench:
 
     def memory_line(self, row, what, ours, bare):
         self.table.add(row, what, [one.memory for one in ours], [one.memory for one in bare], "MiB",
-                       "a bare QApplication", above=12 * MIB)
+                       "a bare QApplication", above=8 * MIB)
 
     def growth_row(self, row="growth"):
         """Time and memory over the number of entries."""

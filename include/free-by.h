@@ -1,4 +1,4 @@
-// Owners of what a C library makes.
+// Owners of objects of C libraries.
 #pragma once
 
 // A deleter for std::unique_ptr: std::unique_ptr<DIR, FreeBy<closedir>>.

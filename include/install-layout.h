@@ -1,4 +1,4 @@
-// Where everything is on disk. Relative paths have no slash at either end.
+// The layout on disk. Relative paths neither start nor end with a slash.
 #pragma once
 
 namespace layout {
@@ -21,18 +21,18 @@ constexpr char kUserDirectory[] = ".Quillmere";
 
 // In kUserDirectory.
 constexpr char kApp[] = "Quillmere.app";   // the per-user copy
-constexpr char kAgedApp[] = "app";         // where old versions were installed
-constexpr char kData[] = "data";           // the client's
+constexpr char kAgedApp[] = "app";         // from old versions
+constexpr char kData[] = "data";           // of the client
 constexpr char kPidFile[] = "ui.pid";      // written by the client
 constexpr char kLock[] = "launcher.lock";  // one launcher at a time
 constexpr char kLogDirectory[] = "log";
 constexpr char kLogFile[] = "log/launcher.log";
 
-// The old copy during an upgrade: the per-user copy's path and the suffix, then nothing or a digit.
+// A backup: the path of the per-user copy, the suffix, then nothing or a digit.
 constexpr char kBackupSuffix[] = "_tmp";
 constexpr int kBackups = 10;
 
-// The lock of one bundle's instances: the prefix, the bundle's id, "-", the user's id, ".lock".
+// The lock file of a bundle's instances: the prefix, the bundle's id, "-", the user's id, ".lock".
 constexpr char kInstanceLockPrefix[] = "/tmp/quillmere-launcher-";
 
 }  // namespace layout

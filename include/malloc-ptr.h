@@ -1,13 +1,10 @@
-// The owner of a block from malloc.
+// An owner of memory from malloc.
 #pragma once
 
 #include <cstdlib>
 #include <memory>
 
-struct MallocFreer {
-    void operator()(void* block) const { std::free(block); }
-};
+#include "free-by.h"
 
-// For what the C library and others hand out to be freed by the caller.
 template <class T>
-using MallocPtr = std::unique_ptr<T, MallocFreer>;
+using MallocPtr = std::unique_ptr<T, FreeBy<std::free>>;

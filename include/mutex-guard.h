@@ -1,9 +1,9 @@
-// The owner of a locked mutex.
+// Locks a mutex in a scope.
 #pragma once
 
 #include <pthread.h>
 
-// Holds the mutex for as long as it lives.
+// Unlocks in the destructor.
 class MutexGuard {
   public:
     explicit MutexGuard(pthread_mutex_t* mutex) : mutex_(mutex) { pthread_mutex_lock(mutex_); }

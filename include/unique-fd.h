@@ -5,7 +5,7 @@
 
 #include <utility>
 
-// Closes its descriptor when it goes. A negative number owns nothing.
+// Closes its descriptor in the destructor. Owns nothing if it is negative.
 class UniqueFd {
   public:
     explicit UniqueFd(int fd = -1) : fd_(fd) {}
@@ -18,7 +18,7 @@ class UniqueFd {
 
     int get() const { return fd_; }
     bool valid() const { return fd_ >= 0; }
-    // The descriptor is the caller's from now on.
+    // The caller owns the result.
     int release() { return std::exchange(fd_, -1); }
 
     void reset(int fd = -1) {

@@ -6,16 +6,15 @@
 #include <memory>
 #include <sstream>
 
+#include "free-by.h"
+
 namespace {
 
 constexpr int kLineBuffer = 0x2000;
 
-struct FileCloser {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, FileCloser>;
+using File = std::unique_ptr<std::FILE, FreeBy<std::fclose>>;
 
-// The classes are those of the syntax, whatever the locale's <cctype> says.
+// <cctype> depends on the locale; the syntax does not.
 bool IsSpace(char c) {
     return (c >= '\t' && c <= '\r') || c == ' ';
 }
@@ -45,7 +44,7 @@ const char* SkipSpace(const char* at) {
     return at;
 }
 
-// Take a value from `at`, which is moved behind it. False: malformed.
+// Both read a value at `at` and move `at` after it. Result: false if the value is malformed.
 bool TakeQuoted(const char*& at, ustring& value) {
     const char quote = *at++;
     const char* const start = at;
@@ -69,13 +68,12 @@ bool TakePlain(const char*& at, ustring& value) {
     return at != start;
 }
 
-// Puts lines into a map. What it keeps between them spares blocks of memory, and searches where
-// keys follow each other.
+// Adds lines to a map. Its members save allocations, and searches if the keys are sorted.
 class Lines {
   public:
     explicit Lines(Config& config) : config_(config), last_(config.end()) {}
 
-    // Stores the line's key and value, if it has them. False: malformed.
+    // Stores the key and value of a line, if any. Result: false if the line is malformed.
     bool Parse(const char* line) {
         const char* at = SkipSpace(line);
         const char* const key = at;

@@ -1,4 +1,4 @@
-// The logger: thresholds, the one critical section of a message, and rotation.
+// The logger.
 #include "log.h"
 
 #include <fcntl.h>
@@ -21,22 +21,22 @@ constexpr int kRotationLimit = 1048576;
 constexpr int kSyslogPriority = 3;
 constexpr char kTimeFormat[] = "%b %d %H:%M:%S ";
 
-// No component has had a higher threshold.
+// The highest threshold of any component so far.
 int g_highest_threshold = kDefaultThreshold;
 
-// Serves until the logger has its own lock.
+// Protects the creation of the logger's own lock.
 pthread_mutex_t g_first_use = PTHREAD_MUTEX_INITIALIZER;
 
-// The members that are read before the lock is taken. Who sees a block sees it filled.
+// For members that are read without the lock. The acquired pointer points to initialized memory.
 template <class T>
-T Peek(const T& member) {
+T LoadAcquire(const T& member) {
     T value;
     __atomic_load(&member, &value, __ATOMIC_ACQUIRE);
     return value;
 }
 
 template <class T, class U>
-void Poke(T& member, U value) {
+void StoreRelease(T& member, U value) {
     T converted = value;
     __atomic_store(&member, &converted, __ATOMIC_RELEASE);
 }
@@ -49,7 +49,7 @@ T* Allocate() {
 template <class T>
 void Free(T*& block) {
     std::free(block);
-    Poke(block, nullptr);
+    StoreRelease(block, nullptr);
 }
 
 // The name of a rotated file.
@@ -65,13 +65,13 @@ class RotatedName {
     int length_;
 };
 
-// The time stamp of a line that is written now; empty on failure. localtime(3) looks at the zone's
-// file each time, which takes longer than all the rest of a line, so a second's stamp is kept while
-// neither second nor zone nor locale changes. Not reentrant, and used inside the lock only.
+// Returns the time stamp of a line; empty on failure. Caches it while second, zone and locale stay
+// the same, because localtime(3) takes longer than the rest of a line. Requires the lock.
 const char* TimeStamp() {
     static std::time_t second = -1;
-    static std::string zone;
-    static std::string locale;
+    // Never destroyed: a thread may log while the process exits.
+    static std::string& zone = *new std::string;
+    static std::string& locale = *new std::string;
     static char stamp[512];
     const std::time_t now = std::time(nullptr);
     const char* const variable = std::getenv("TZ");
@@ -109,10 +109,10 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_path
         return -1;
     }
     ReadLevels(level_path);
-    Poke(log_type, type);
+    StoreRelease(log_type, type);
     *log_rotated_count_shared = 0;
     log_rotated_count_private = 0;
-    // Nothing is counted until a file is open; if none can be, lines go on to where they went.
+    // Without an open file, lines go to the former stream and are not counted.
     *log_size = -1;
     if (type == TYPE_FILE) {
         if (path.empty() || OpenFile(path) != 0) {
@@ -124,7 +124,7 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_path
         Replace(type == TYPE_STDOUT ? stdout : type == TYPE_STDERR ? stderr : nullptr);
         log_path.clear();
     }
-    Poke(log_initialized, true);
+    StoreRelease(log_initialized, true);
     return 0;
 }
 
@@ -150,23 +150,22 @@ void Logger::LogMsg(Level level, const ustring& component, const char* format, .
 }
 
 void Logger::LogMsg2(Level level, const ustring& component, const char* format, va_list args) {
-    if (!Passes(level, component) || !Peek(log_initialized)) {
+    if (!Passes(level, component) || !LoadAcquire(log_initialized)) {
         return;
     }
     EnsureReady();
-    if (HasNowhereToWrite()) {
+    if (!HasOutput()) {
         return;
     }
     const MutexGuard guard(log_lock);
     FollowRotation();
-    Count(Write(format, args));
+    AddToFileSize(Write(format, args));
 }
 
-// A process that never called Initialize comes to its lock and blocks here, with its first message,
-// in whatever threads that is.
+// Without Initialize, the first message of any thread creates the lock and the shared data.
 void Logger::EnsureReady() {
-    if (Peek(log_lock) != nullptr && Peek(log_size) != nullptr &&
-        Peek(log_rotated_count_shared) != nullptr) {
+    if (LoadAcquire(log_lock) != nullptr && LoadAcquire(log_size) != nullptr &&
+        LoadAcquire(log_rotated_count_shared) != nullptr) {
         return;
     }
     const MutexGuard guard(&g_first_use);
@@ -174,12 +173,12 @@ void Logger::EnsureReady() {
     InitializeSharedData();
 }
 
-bool Logger::HasNowhereToWrite() {
-    return Peek(log_lock) == nullptr || Peek(log_size) == nullptr ||
-           (Peek(log_type) != TYPE_SYSLOG && Peek(log_fp) == nullptr);
+bool Logger::HasOutput() {
+    return LoadAcquire(log_lock) != nullptr && LoadAcquire(log_size) != nullptr &&
+           (LoadAcquire(log_type) == TYPE_SYSLOG || LoadAcquire(log_fp) != nullptr);
 }
 
-// Another writer of the log has rotated it: the path names a new file.
+// Opens the new file if another writer has rotated the log.
 void Logger::FollowRotation() {
     if (log_rotated_count_private == *log_rotated_count_shared) {
         return;
@@ -188,8 +187,7 @@ void Logger::FollowRotation() {
     log_rotated_count_private = *log_rotated_count_shared;
 }
 
-// Without the lock: the thresholds change in Initialize only, which runs while no other thread
-// logs.
+// Needs no lock: only Initialize changes the thresholds, and no other thread logs meanwhile.
 bool Logger::Passes(Level level, const ustring& component) {
     if (level > g_highest_threshold) {
         return false;
@@ -199,7 +197,7 @@ bool Logger::Passes(Level level, const ustring& component) {
     return level <= threshold;
 }
 
-// Result: the bytes written, negative on failure.
+// Result: the number of bytes, or negative on failure.
 int Logger::Write(const char* format, va_list args) {
     if (log_type == TYPE_SYSLOG) {
         vsyslog(kSyslogPriority, format, args);
@@ -214,7 +212,7 @@ int Logger::Write(const char* format, va_list args) {
     return stamp < 0 || text < 0 ? -1 : stamp + text;
 }
 
-void Logger::Count(int written) {
+void Logger::AddToFileSize(int written) {
     if (log_type != TYPE_FILE || *log_size < 0 || written < 0) {
         return;
     }
@@ -252,13 +250,12 @@ void Logger::ReloadLogFile() {
     }
 }
 
-// Result: 0; -1 when the file cannot be opened, and the log ends.
+// Result: 0; -1 if the file cannot be opened. The log then ends.
 int Logger::Reopen() {
     if (OpenFile(log_path) == 0) {
         return 0;
     }
-    // Perhaps no descriptor is left but the former stream's. Standard error stands in for it: see
-    // OpenFile.
+    // The former stream may hold the last descriptor. Use standard error meanwhile: see OpenFile.
     Replace(stderr);
     if (OpenFile(log_path) == 0) {
         return 0;
@@ -267,15 +264,14 @@ int Logger::Reopen() {
     return -1;
 }
 
-// On success the stream is the log's, in place of the former, and its count starts at 0; on failure
-// both stay. There is no moment without a stream: a thread that found none would take the log for
-// ended.
+// On success replaces the stream and sets its size to 0; on failure changes nothing. Never leaves
+// the log without a stream, because another thread would take it for closed.
 int Logger::OpenFile(const ustring& path) {
     std::FILE* const opened = std::fopen(path.c_str(), "a");
     if (opened == nullptr) {
         return -1;
     }
-    // The client that this process starts must not hold the log.
+    // The client must not inherit the log.
     fcntl(fileno(opened), F_SETFD, FD_CLOEXEC);
     Replace(opened);
     *log_size = 0;
@@ -288,14 +284,14 @@ void Logger::CloseFile() {
 
 void Logger::Replace(std::FILE* stream) {
     std::FILE* const former = log_fp;
-    Poke(log_fp, stream);
+    StoreRelease(log_fp, stream);
     if (former != nullptr && former != stderr && former != stdout) {
         std::fclose(former);
     }
 }
 
 void Logger::Destroy() {
-    Poke(log_initialized, false);
+    StoreRelease(log_initialized, false);
     if (log_type == TYPE_FILE) {
         CloseFile();
         log_path.clear();
@@ -311,7 +307,7 @@ void Logger::InitializeLock() {
     pthread_mutex_t* const lock = Allocate<pthread_mutex_t>();
     if (lock != nullptr) {
         pthread_mutex_init(lock, nullptr);
-        Poke(log_lock, lock);
+        StoreRelease(log_lock, lock);
     }
 }
 
@@ -344,8 +340,8 @@ void Logger::InitializeSharedData() {
     }
     *size = log_path.empty() ? -1 : 0;
     *rotations = log_rotated_count_private;
-    Poke(log_size, size);
-    Poke(log_rotated_count_shared, rotations);
+    StoreRelease(log_size, size);
+    StoreRelease(log_rotated_count_shared, rotations);
 }
 
 void Logger::DestroySharedData() {

@@ -13,8 +13,8 @@
 namespace {
 
 constexpr int kStateSize = 256;
-constexpr int kDraw = 6;        // bytes for a name: 48 bits
-constexpr int kNameLength = 8;  // characters of 6 bits each
+constexpr int kDraw = 6;        // bytes of a name
+constexpr int kNameLength = 8;  // characters of 6 bits
 
 // Three bytes as four groups of six bits, most significant bit first.
 void Encode(const unsigned char* bytes, char* out) {
@@ -29,7 +29,7 @@ void Encode(const unsigned char* bytes, char* out) {
 
 pthread_mutex_t TmpNameGen::m_lock = PTHREAD_MUTEX_INITIALIZER;
 
-// The schedule takes the whole key buffer, so what the clock text leaves of it must be zero.
+// The schedule uses the whole buffer, so the rest must be zero.
 TmpNameGen::TmpNameGen() : m_state{}, m_key{}, m_random{} {
     get_key(m_key, sizeof m_key);
     rc4_init(m_state, m_key);

@@ -1,4 +1,4 @@
-// Parts of a test that need a process of their own.
+// Runs parts of a test in a child process.
 #pragma once
 
 #include <grp.h>
@@ -8,8 +8,8 @@
 
 #include <cstdio>
 
-// Runs `body` in a child process that `prepare` makes ready: what fails there fails the test. It is
-// skipped if `prepare` is refused.
+// Runs `prepare` and `body` in a child process; a failure there fails the test. Skips the test if
+// `prepare` returns false.
 template <class Prepare, class Body>
 void InChild(Prepare prepare, Body body) noexcept {
     std::fflush(nullptr);
@@ -23,10 +23,10 @@ void InChild(Prepare prepare, Body body) noexcept {
     int status = -1;
     waitpid(child, &status, 0);
     if (WIFEXITED(status) && WEXITSTATUS(status) == 77) {
-        GTEST_SKIP() << "This user may neither mount nor become another.";
+        GTEST_SKIP() << "needs the right to mount or to become another user";
     }
     EXPECT_EQ(status, 0);
 }
 
-// For InChild: becomes a user who owns nothing, unless it is one without root's rights anyway.
+// For InChild: becomes a user who owns nothing. Does nothing if this user is not root.
 inline bool BecomeNobody() { return geteuid() != 0 || !(setgroups(0, nullptr) || setgid(65534) || setuid(65534)); }

@@ -1,5 +1,4 @@
-// Runs the tests in a child process with a directory for temporary files of its own, and takes away what they leave
-// behind: orphans are adopted, so that one that ends is gone at once, whatever process 1 does.
+// Runs the tests in a child process with its own $TMPDIR, and reaps orphaned children (PR_SET_CHILD_SUBREAPER).
 #include <sys/prctl.h>
 #include <sys/wait.h>
 

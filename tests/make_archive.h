@@ -1,4 +1,4 @@
-// Archives for tests, of any kind that libarchive writes.
+// Writes archives in any format of libarchive.
 #pragma once
 
 #include <archive.h>
@@ -10,14 +10,14 @@
 
 struct ArchiveMember {
     std::string path;
-    std::string content;  // or where a link leads to
+    std::string content;  // or the target of a link
     mode_t mode = S_IFREG;
 };
 
-constexpr mode_t kHardLink = 0, kSparse = 1;  // of the sparse one the second half is a hole
+constexpr mode_t kHardLink = 0, kSparse = 1;  // the second half of a sparse file is a hole
 using ArchiveFormat = int (*)(archive*);
 
-// `filter` is a program that the archive is sent through. All members have the permissions 0755.
+// `filter` is a program that compresses the archive. All members have the permissions 0755.
 inline void MakeArchive(const std::string& path, const std::vector<ArchiveMember>& members,
                         ArchiveFormat format = archive_write_set_format_pax_restricted, const char* filter = "cat") {
     archive* const writer = archive_write_new();

@@ -1,4 +1,4 @@
-// A directory of a test's own, and what tests do with files.
+// Temporary directories and files.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@
 #include <sstream>
 #include <string>
 
-// Made below the system's directory for temporary files and removed with all it holds.
+// A directory in $TMPDIR, removed with its contents.
 class TempDir {
   public:
     TempDir() {
@@ -36,7 +36,7 @@ inline void WriteFile(const std::string& path, const std::string& content) {
     std::ofstream(path, std::ios::binary) << content;
 }
 
-// As far as it can be read: a process that ends takes its files in /proc away.
+// Returns what can be read; a file in /proc may disappear.
 inline std::string ReadFile(const std::string& path) {
     std::ostringstream content;
     content << std::ifstream(path, std::ios::binary).rdbuf();

@@ -1,8 +1,8 @@
-// The two views of a text, its searches and comparisons; ICU does the conversions.
+// Texts in UTF-8 and UTF-16, with conversions by ICU.
 #include "ustring/ustring.h"
 
-// ICU's own switches: its C interface alone, with the unit type of this class, so that no call needs
-// a cast. Since ICU 76 the C++ interface has two parts.
+// Switches of ICU: only the C interface, with the unit type of this class. Since ICU 76 the C++
+// interface has two parts.
 #define UCHAR_TYPE unsigned short
 #define U_SHOW_CPLUSPLUS_API 0
 #define U_SHOW_CPLUSPLUS_HEADER_API 0
@@ -17,6 +17,8 @@
 #include <iostream>
 #include <new>
 #include <stdexcept>
+
+#include "lib/ascii.h"
 
 namespace {
 
@@ -34,8 +36,7 @@ unsigned long LengthUpTo(unsigned short const* s, unsigned long limit) {
     return length;
 }
 
-// Elements for `length` plus `extra` and the terminator; what cannot be counted cannot be
-// allocated.
+// Returns the elements for `length`, `extra` and the terminator. Throws if the sum overflows.
 unsigned long Need(unsigned long length, unsigned long extra) {
     if (extra >= ustring::npos - length) {
         throw std::bad_alloc();
@@ -43,7 +44,7 @@ unsigned long Need(unsigned long length, unsigned long extra) {
     return length + extra + 1;
 }
 
-// Exact fit with hysteresis: a block with spare room of up to its half stays as it is.
+// Keeps a block that is up to twice as large as necessary.
 bool Fits(unsigned long capacity, unsigned long need) {
     return capacity >= need && capacity / 2 <= need;
 }
@@ -91,16 +92,7 @@ void Warn(char const* what, UErrorCode status, int line) {
     std::cerr << what << static_cast<int>(status) << " at line " << line << std::endl;
 }
 
-// Without a branch for each byte, so that the compiler looks at many at once.
-bool IsAscii(char const* s, unsigned long length) {
-    unsigned char bits = 0;
-    for (unsigned long i = 0; i < length; ++i) {
-        bits = static_cast<unsigned char>(bits | s[i]);
-    }
-    return bits < 0x80;
-}
-
-// Result: how far both are equal, in whole machine words.
+// Returns the length of the common beginning, in whole words.
 unsigned long EqualWords(char const* a, char const* b, unsigned long length) {
     constexpr unsigned long kWord = 8;
     unsigned long equal = 0;
@@ -110,7 +102,7 @@ unsigned long EqualWords(char const* a, char const* b, unsigned long length) {
     return equal;
 }
 
-// A test of the text from one of its offsets.
+// Tests for a text at an offset.
 struct StartsWith {
     char const* needle;
     bool operator()(char const* text) const {
@@ -189,7 +181,7 @@ void ustring::init() {
     init(kFirstCapacity);
 }
 
-// The block of the UTF-8 text is as if it had been fitted to `need` afterwards.
+// Fits the block of the UTF-8 text to `need` afterwards.
 void ustring::init(unsigned long need) {
     data = nullptr;
     wdata = nullptr;
@@ -205,7 +197,7 @@ void ustring::init(unsigned long need) {
     clear();
 }
 
-// Those that may throw when they fill the object delegate to this one, so that the destructor runs.
+// Constructors that may throw delegate to this one, so that the destructor runs.
 ustring::ustring() {
     init();
 }
@@ -299,6 +291,7 @@ ustring& ustring::assign(ustring const& s, unsigned long pos, unsigned long n) {
         const ustring part = substr(pos, n);
         return assign(part, 0, npos);
     }
+    s.check(pos);
     clear();
     return append(s, pos, n);
 }
@@ -346,6 +339,9 @@ ustring& ustring::assign(unsigned short const* s, unsigned long n) {
 }
 
 ustring& ustring::assign(std::string const& s, unsigned long pos, unsigned long n) {
+    if (pos > s.size()) {
+        throw std::out_of_range("basic_string::substr");
+    }
     clear();
     return append(s, pos, n);
 }
@@ -397,7 +393,7 @@ ustring& ustring::append(unsigned short const* s) {
 }
 
 ustring& ustring::append(unsigned short const* s, unsigned long n) {
-    // Before the view is built: building may move the buffer that `s` names.
+    // Before the conversion, which may move the buffer of `s`.
     const bool self = s == wdata;
     build_wdata();
     AppendUnits<unsigned short>(wdata, wdata_length, wdata_capacity, self ? wdata : s, n);
@@ -412,8 +408,7 @@ ustring& ustring::append(unsigned short c, unsigned long n) {
     return *this;
 }
 
-// Before a change through UTF-16: the view holds the present text, or nothing if that cannot be
-// converted.
+// Fills the UTF-16 text before a change of it; empty if the conversion fails.
 void ustring::build_wdata() const {
     if (wdata_length == 0 && data_length != 0) {
         convert_from_data();
@@ -583,7 +578,7 @@ ustring ustring::normalize(ustring const& source, normalization_form form) {
     if (source.empty()) {
         return result;
     }
-    // ASCII is normalised as it stands (Unicode Standard Annex #15).
+    // ASCII text is normalized (Unicode Standard Annex #15).
     if (IsAscii(source.data, std::strlen(source.data))) {
         source.c_str_utf16();
         result = source;
@@ -591,7 +586,7 @@ ustring ustring::normalize(ustring const& source, normalization_form form) {
         return result;
     }
     UErrorCode status = U_ZERO_ERROR;
-    // ICU owns the instance, which is not closed.
+    // ICU owns the instance.
     UNormalizer2 const* const normalizer =
         unorm2_getInstance(nullptr, "nfc", kModes[form], &status);
     if (U_FAILURE(status) || normalizer == nullptr) {
@@ -627,7 +622,7 @@ ustring operator+(ustring const& left, char right) {
     return left + ustring::one_byte{right}.text;
 }
 
-// A temporary has both views; its copy is UTF-8 alone.
+// A temporary has both texts; its copy has only UTF-8.
 ustring operator+(ustring const& left, unsigned short const* right) {
     return ustring(left).append(right).data;
 }

@@ -1,4 +1,4 @@
-// The window system has the list of fonts.
+// The window system manages the fonts.
 #include "platform/desktop/font-loader.h"
 
 void FontLoader::Start() {}

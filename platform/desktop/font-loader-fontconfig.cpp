@@ -1,4 +1,4 @@
-// Reading the list of fonts ahead of the first window.
+// Loads the list of fonts before the first window needs it.
 #include <fontconfig/fontconfig.h>
 
 #include <system_error>

@@ -1,10 +1,10 @@
-// Reading the list of fonts ahead of the first window.
+// Loads the list of fonts before the first window needs it.
 #pragma once
 
 #include <thread>
 
-// Reads the list on a thread of its own while the main thread connects to the display. Reading
-// takes a third of a start's instructions, and the first window waits for it.
+// Loads the list on its own thread while the main thread connects to the display. Loading takes a
+// third of the instructions of a start.
 class FontLoader {
   public:
     FontLoader() = default;
@@ -12,7 +12,7 @@ class FontLoader {
     FontLoader(const FontLoader&) = delete;
     FontLoader& operator=(const FontLoader&) = delete;
 
-    // Where no thread can be created, the window reads the list.
+    // If no thread can be created, the window loads the list.
     void Start();
     void Wait();
 

@@ -1,4 +1,4 @@
-// A session has a display, and the bundle its plug-ins.
+// Every session has a display, and every bundle its plug-ins.
 #include "platform/desktop/gui-environment.h"
 
 GuiEnvironment::GuiEnvironment(StartMode, const QString&) {}

@@ -1,4 +1,4 @@
-// What the application object needs where the window system is X11 or Wayland.
+// The environment of the application object with X11 or Wayland.
 #include <QAccessible>
 #include <QFile>
 #include <QGuiApplication>
@@ -23,7 +23,7 @@ bool HasSessionBus() {
 }  // namespace
 
 GuiEnvironment::GuiEnvironment(StartMode mode, const QString& library_path) {
-    // The D-Bus library would start a bus where there is none.
+    // Without this, the D-Bus library would start a bus.
     if (mode >= StartMode::kWithoutSession || !HasSessionBus()) {
         environment_.Set(kSessionBus, "disabled:");
     }
@@ -37,7 +37,7 @@ GuiEnvironment::GuiEnvironment(StartMode mode, const QString& library_path) {
     }
 }
 
-// Qt's own plug-ins first: the bundle's may be what ended the previous attempt.
+// Qt's own plug-ins first, because the bundle's may have ended the previous attempt.
 void GuiEnvironment::LeaveOutDisplay() {
     environment_.Set(kPlatforms, "offscreen");
     environment_.Set(kPluginPath, QFile::encodeName(FindPlatformPlugins(
@@ -47,7 +47,7 @@ void GuiEnvironment::LeaveOutDisplay() {
 void GuiEnvironment::UseDisplay(const QString& library_path) {
     const QList<QByteArray> platforms = PlatformsToTry(QProcessEnvironment::systemEnvironment());
     environment_.Set(kPlatforms, platforms.join(';'));
-    // A progress bar needs no OpenGL, whose libraries take long to load.
+    // OpenGL libraries take long to load, and a progress bar does not need them.
     environment_.Set("QT_XCB_GL_INTEGRATION", "none");
     const QString plugins = FindPlatformPlugins(
         {library_path, PluginsOfExecutable(), PluginsOfQt()}, platforms.first());

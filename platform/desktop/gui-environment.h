@@ -1,4 +1,4 @@
-// What the application object needs to come up in any session.
+// The environment of the application object.
 #pragma once
 
 #include <QString>
@@ -7,18 +7,17 @@
 #include "platform/desktop/scoped-environment.h"
 #include "platform/process/supervisor.h"
 
-// Exists around the construction of the application object. Changes environment variables so that
-// Qt tries the right platforms (see PlatformsToTry), finds their plug-ins in `library_path`, in the
-// bundle of the executable, or in Qt's own directory, and does without what `mode` leaves out.
-// Windows get the size that the display's resolution asks for. Does nothing on Apple systems. Main
-// thread, before any other thread.
+// Changes environment variables during the construction of the application object: Qt tries the
+// platforms of PlatformsToTry, finds their plug-ins in `library_path`, in the bundle of the
+// executable or in its own directory, and does not use what `mode` leaves out. Enables scaling for
+// high resolutions. Does nothing on Apple systems. Main thread, before other threads exist.
 class GuiEnvironment {
   public:
     GuiEnvironment(StartMode mode, const QString& library_path);
 
-    // Restores the environment, which the client inherits. To be called after the construction of
-    // the application object. Connects to what the first window would otherwise connect to during
-    // the run: the accessibility bus, and OpenGL.
+    // Restores the environment for the client. Call it after the construction of the application
+    // object. Also connects to the accessibility bus and OpenGL, so that the first window does not
+    // do so during the run.
     void Restore();
 
   private:

@@ -1,4 +1,4 @@
-// The system opens bundles by their URL.
+// Opens bundles by their URL.
 #include <QDesktopServices>
 #include <QUrl>
 

@@ -1,4 +1,4 @@
-// A bundle's executable is started where the system knows no bundles.
+// Starts the executable of a bundle.
 #include <fcntl.h>
 #include <signal.h>
 #include <spawn.h>
@@ -16,7 +16,7 @@
 
 namespace {
 
-// The files of the new process: nothing of this one's but its standard streams, which lead nowhere.
+// The descriptors of the new process: only standard streams, on /dev/null.
 class FileActions {
   public:
     FileActions() {
@@ -58,7 +58,7 @@ class Attributes {
     posix_spawnattr_t attributes_;
 };
 
-// posix_spawn(3) reports what execve(2) says. The child becomes init's when this process ends.
+// posix_spawn(3) reports errors of execve(2).
 int Spawn(QByteArray path) {
     char* const arguments[] = {path.data(), nullptr};
     pid_t child = 0;
@@ -66,8 +66,8 @@ int Spawn(QByteArray path) {
                        environ);
 }
 
-// Makes this process what the child would have been.
-void Become(QByteArray path) {
+// Executes the application in this process.
+void ExecApplication(QByteArray path) {
     std::fflush(nullptr);
     setsid();
     const int nothing = open("/dev/null", O_RDWR);
@@ -87,8 +87,8 @@ void Become(QByteArray path) {
     }
 }
 
-// The executable that is started at the end.
-QByteArray& PutOff() {
+// The executable to start at exit.
+QByteArray& DeferredExecutable() {
     static auto* const path = new QByteArray;
     return *path;
 }
@@ -98,10 +98,10 @@ bool Start(const QByteArray& path) {
     if (error != EAGAIN || access(path.constData(), X_OK) != 0) {
         return error == 0;
     }
-    PutOff() = path;
+    DeferredExecutable() = path;
     return std::atexit([] {
-               if (Spawn(PutOff()) == EAGAIN) {
-                   Become(PutOff());
+               if (Spawn(DeferredExecutable()) == EAGAIN) {
+                   ExecApplication(DeferredExecutable());
                }
            }) == 0;
 }

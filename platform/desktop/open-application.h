@@ -1,16 +1,16 @@
-// Opening an application that then runs by itself.
+// Opens an application that outlives this process.
 #pragma once
 
 #include <QString>
 
 // Opens the application at the local path `application`, as if the user had done so.
 //
-// Apple systems open the bundle by its URL. Elsewhere what is named ".app" is a bundle, and its
-// file `executable` (a relative path) is started: in a session of its own, at "/", with default
-// signal dispositions, nothing on its standard streams and no other descriptor of this process,
-// which does not wait for it. Where the system has no room for another process, the start is put
-// off to the normal end of this one, when its threads are gone; and where even that makes no room,
-// this process becomes the application. What is no bundle goes to QDesktopServices::openUrl.
+// Apple systems open the bundle by its URL. On others a directory named "*.app" is a bundle, and
+// its file `executable` (a relative path) is started: in a new session, in "/", with default signal
+// dispositions, with /dev/null as standard streams and no other descriptors. If the process limit
+// is reached, the start is deferred to the normal exit of this process, after the end of its
+// threads; if the limit is still reached then, this process executes the application.
+// QDesktopServices::openUrl opens everything that is not a bundle.
 //
-// Result: whether it could be opened or started; what is not there cannot. Any thread.
+// Result: whether it was opened, started or deferred. False if it does not exist. Any thread.
 bool OpenApplication(const QString& application, const QString& executable);

@@ -1,4 +1,4 @@
-// Where Qt finds its platform plug-ins.
+// Finds the platform plug-ins of Qt.
 #include "platform/desktop/platform-plugins.h"
 
 #include <QDir>

@@ -1,4 +1,4 @@
-// Which of Qt's platforms a start tries.
+// Selects Qt's platforms.
 #include "platform/desktop/platforms.h"
 
 #include <algorithm>

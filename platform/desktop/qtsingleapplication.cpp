@@ -1,4 +1,4 @@
-// The single instance, by a lock file.
+// Detects a running instance by a lock file.
 #include "platform/desktop/qtsingleapplication.h"
 
 #include <unistd.h>
@@ -13,7 +13,8 @@ namespace {
 std::string LockPath(const QByteArray& program) {
     const QByteArray id =
         QCryptographicHash::hash(program, QCryptographicHash::Sha1).toHex().left(16);
-    return layout::kInstanceLockPrefix + id.toStdString() + "-" + std::to_string(getuid()) + ".lock";
+    return layout::kInstanceLockPrefix + id.toStdString() + "-" + std::to_string(getuid()) +
+           ".lock";
 }
 
 }  // namespace
@@ -23,10 +24,9 @@ QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool) : QApplic
 QtSingleApplication::~QtSingleApplication() = default;
 
 bool QtSingleApplication::isRunning() {
-    if (lock_) {
-        return false;
+    if (!lock_) {
+        const QByteArray program = QFile::encodeName(QCoreApplication::applicationFilePath());
+        lock_.reset(new FileLock(LockPath(program), program.toStdString()));
     }
-    const QByteArray program = QFile::encodeName(QCoreApplication::applicationFilePath());
-    lock_.reset(new FileLock(LockPath(program), program.toStdString()));
     return lock_->Take() == FileLock::Result::kHeld;
 }

@@ -1,4 +1,4 @@
-// The application object that knows of a second instance.
+// An application object that detects a running instance.
 #pragma once
 
 #ifdef __APPLE__
@@ -10,18 +10,17 @@
 
 #include "platform/files/file-lock.h"
 
-// A QApplication with isRunning(), where the library of this name is not packaged. An instance is
-// known by the path of its executable and by the user: a copy at another path, or another user, is
-// another. Main thread.
+// For systems without a package of the library with this name. An instance is identified by the
+// path of its executable and by the user. Main thread.
 class QtSingleApplication : public QApplication {
   public:
-    // `gui` is there for the library's signature; only true is of use here.
+    // `gui` exists for the library's signature and must be true.
     QtSingleApplication(int& argc, char** argv, bool gui);
     ~QtSingleApplication() override;
 
-    // Whether another instance is running. The first instance that asks becomes the one that runs,
-    // until it ends. The lock is a file in /tmp in every session of the user, whatever its
-    // environment says. One that cannot be made, or is another user's, is no running instance.
+    // Whether another instance is running. The first instance that calls this is the running one
+    // until it ends. The lock file is in /tmp, whatever $TMPDIR is. False if the lock file cannot
+    // be created or belongs to another user.
     bool isRunning();
 
   private:

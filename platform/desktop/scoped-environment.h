@@ -1,4 +1,4 @@
-// Environment variables that are changed for a time.
+// Temporary changes of environment variables.
 #pragma once
 
 #include <QByteArray>

@@ -1,4 +1,4 @@
-// A lock that ends with its process.
+// A lock file.
 #include "platform/files/file-lock.h"
 
 #include <fcntl.h>
@@ -8,8 +8,6 @@
 
 #include <cerrno>
 #include <fstream>
-#include <mutex>
-#include <set>
 #include <sstream>
 #include <utility>
 
@@ -35,17 +33,6 @@ int FlockThroughSignals(int file, int operation) {
     return result;
 }
 
-// The locks that are held. Never freed: an end without destructors comes late.
-struct Locks {
-    std::mutex mutex;
-    std::set<FileLock*> held;
-};
-
-Locks& All() {
-    static auto* const locks = new Locks;
-    return *locks;
-}
-
 }  // namespace
 
 FileLock::FileLock(std::string path, std::string note)
@@ -64,7 +51,7 @@ FileLock::Result FileLock::Lock(int operation) {
         return Result::kTaken;
     }
     for (;;) {
-        // Nothing that lies there can hold this call up, or lead to another file.
+        // O_NOFOLLOW and O_NONBLOCK: whatever has this name must not redirect or block this call.
         UniqueFd file(open(path_.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC,
                            S_IRUSR | S_IWUSR));
         if (!file.valid() || !IsFileOfThisUser(file.get())) {
@@ -73,7 +60,7 @@ FileLock::Result FileLock::Lock(int operation) {
         if (FlockThroughSignals(file.get(), operation) != 0) {
             return errno == EWOULDBLOCK ? Result::kHeld : Result::kUnusable;
         }
-        // Its holder may have removed the file in between, and it is nobody's lock any more.
+        // The previous holder may have removed the file meanwhile.
         if (IsNamed(file.get(), path_.c_str())) {
             file_ = std::move(file);
             break;
@@ -81,14 +68,12 @@ FileLock::Result FileLock::Lock(int operation) {
     }
     if (ftruncate(file_.get(), 0) != 0 ||
         write(file_.get(), note_.data(), note_.size()) != static_cast<ssize_t>(note_.size())) {
-        // A full disk: the lock is held all the same, by one that is not known.
+        // On a full disk the lock is held without a note.
     }
-    const std::lock_guard<std::mutex> guard(All().mutex);
-    All().held.insert(this);
     return Result::kTaken;
 }
 
-// A file that has come into the place of this one is another's lock.
+// Another file with this name is another process's lock.
 void FileLock::RemoveFile() const {
     if (IsNamed(file_.get(), path_.c_str())) {
         unlink(path_.c_str());
@@ -96,23 +81,14 @@ void FileLock::RemoveFile() const {
 }
 
 void FileLock::Release() {
-    const std::lock_guard<std::mutex> guard(All().mutex);
-    if (All().held.erase(this) != 0) {
+    if (file_.valid()) {
         RemoveFile();
         file_.reset();
     }
 }
 
-void FileLock::RemoveAll() {
-    const std::lock_guard<std::mutex> guard(All().mutex);
-    for (const FileLock* const lock : All().held) {
-        lock->RemoveFile();
-    }
-}
-
 std::string FileLock::HoldersNote() const {
-    // Written from buffer to buffer: a read that fails ends the text, where an iterator would
-    // throw.
+    // A failed read ends the text; an iterator would throw.
     std::ostringstream note;
     note << std::ifstream(path_, std::ios::binary).rdbuf();
     return note.str();

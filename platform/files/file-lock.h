@@ -1,38 +1,34 @@
-// A lock that ends with its process.
+// A lock file.
 #pragma once
 
 #include <string>
 
 #include "unique-fd.h"
 
-// A file that is there and locked by flock(2) while the lock is held. The kernel ends the lock with
-// the process, so that a file which a killed process left behind means nothing. Age means nothing
-// either. Any thread, one at a time.
+// A file that exists and is locked by flock(2) while the lock is held. The kernel releases the lock
+// when the process ends, so a leftover file is not a lock. Any thread, one at a time.
 class FileLock {
   public:
     enum class Result {
         kTaken,    // by this object
         kHeld,     // by another process
-        kUnusable  // no file of this user's can be made or locked there
+        kUnusable  // this user cannot create or lock the file
     };
 
-    // `path` is absolute. `note` is what others can read in the file, as the holder's mark.
+    // `path` is absolute. `note` identifies the holder; it is the content of the file.
     FileLock(std::string path, std::string note);
     ~FileLock() { Release(); }
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
 
-    // Takes the lock now or not at all.
+    // Takes the lock if it is free. kTaken if this object holds it already.
     Result Take();
-    // Waits for as long as another process holds the lock; never kHeld.
+    // Waits until the lock is free. Never kHeld.
     Result Wait();
-    // Removes the file and lets go. The destructor does so too.
+    // Removes the file and releases the lock, as the destructor does.
     void Release();
 
-    // Removes the files of all locks that are held, for an end without destructors. Any thread.
-    static void RemoveAll();
-
-    // What the holder has noted; empty when nobody holds the lock, or the holder is about to.
+    // The holder's note; empty if there is no holder, or the holder has not written it yet.
     std::string HoldersNote() const;
 
   private:

@@ -1,4 +1,4 @@
-// File references over O_PATH descriptors and /proc, or over realpath where there is no /proc.
+// File references by O_PATH descriptors and /proc; by realpath without /proc.
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -24,7 +24,7 @@ OSStatus Store(const std::string& path, FSRef* ref) {
     return 0;
 }
 
-bool IsThere(const char* path) {
+bool Exists(const char* path) {
     struct stat status;
     return lstat(path, &status) == 0;
 }
@@ -36,21 +36,21 @@ bool IsObject(const char* path, int fd) {
            named.st_ino == opened.st_ino;
 }
 
-// proc(5): the kernel marks the path of an object that has lost this name since it was opened. The
-// mark comes off. Result: 0, also where the mark is part of the name, and where another object has
-// taken the name, as when a file is replaced by a rename; ENOENT if nothing is there.
-OSStatus TakeMark(int fd, char* path) {
+// proc(5): the kernel appends " (deleted)" to the path of an object that has lost its name. Removes
+// that suffix, unless it is part of the name. Result: 0; ENOENT if nothing has the name now.
+OSStatus StripDeletedSuffix(int fd, char* path) {
     const std::size_t length = std::strlen(path);
-    const std::size_t mark = sizeof kDeleted - 1;
-    if (length < mark || std::strcmp(path + length - mark, kDeleted) != 0 || IsObject(path, fd)) {
+    const std::size_t suffix = sizeof kDeleted - 1;
+    if (length < suffix || std::strcmp(path + length - suffix, kDeleted) != 0 ||
+        IsObject(path, fd)) {
         return 0;
     }
-    path[length - mark] = 0;
-    return IsThere(path) ? 0 : ENOENT;
+    path[length - suffix] = 0;
+    return Exists(path) ? 0 : ENOENT;
 }
 
-// Result: 0; ENOTSUP where /proc does not tell; another errno.
-OSStatus AskProc(int fd, FSRef* ref) {
+// Result: 0; ENOTSUP without /proc; another errno.
+OSStatus ReadProcLink(int fd, FSRef* ref) {
     char link[32];
     std::snprintf(link, sizeof link, "/proc/self/fd/%d", fd);
     const ssize_t length = readlink(link, ref->path, sizeof ref->path);
@@ -61,7 +61,7 @@ OSStatus AskProc(int fd, FSRef* ref) {
         return ENAMETOOLONG;
     }
     ref->path[length] = 0;
-    return TakeMark(fd, ref->path);
+    return StripDeletedSuffix(fd, ref->path);
 }
 
 OSStatus Resolve(const std::string& path, std::string& resolved) {
@@ -73,8 +73,8 @@ OSStatus Resolve(const std::string& path, std::string& resolved) {
     return 0;
 }
 
-// The parent resolved, and the last name as it stands. A link with a slash behind it is followed,
-// as open(2) does.
+// Resolves the parent and appends the last name. Follows a link with a slash after it, as open(2)
+// does.
 OSStatus ResolveParent(const std::string& path, FSRef* ref) {
     const std::size_t slash = path.rfind('/');
     const std::string name = path.substr(slash == std::string::npos ? 0 : slash + 1);
@@ -100,7 +100,7 @@ OSStatus FSPathMakeRefWithOptions(const UInt8* path, OptionBits options, FSRef* 
     if (!object.valid()) {
         return errno;
     }
-    const OSStatus status = AskProc(object.get(), ref);
+    const OSStatus status = ReadProcLink(object.get(), ref);
     if (status != ENOTSUP) {
         return status;
     }

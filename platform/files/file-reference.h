@@ -8,12 +8,10 @@
 #include <climits>
 #include <cstdint>
 
-// The names and the contract of CoreServices' file references, where the system has none. A
-// reference is a plain value that owns nothing; here it is the object's path at the time when it
-// was made.
+// The file references of CoreServices, for other systems. A reference is a plain value: the path of
+// the object at the time of the call.
 //
-// All three return 0 on success. Any other status is an errno value and only fit to be logged. Safe
-// on any thread.
+// All functions return 0 or an errno value. Any thread.
 using UInt8 = std::uint8_t;
 using UInt32 = std::uint32_t;
 using OptionBits = std::uint32_t;
@@ -26,18 +24,17 @@ struct FSRef {
 
 enum : OptionBits { kFSPathMakeRefDefaultOptions = 0, kFSPathMakeRefDoNotFollowLeafSymlink = 1 };
 
-// Makes a reference to the existing object at `path` (UTF-8, absolute or relative to the working
-// directory). A symbolic link at the last component is followed unless `options` says otherwise.
-// `is_directory` is not used and may be null. Costs three system calls whatever the depth.
+// Makes a reference to the existing object at `path` (UTF-8, absolute or relative). Follows a
+// symbolic link at the last component unless `options` forbids it. `is_directory` is not used and
+// may be null. Takes three system calls at any depth.
 OSStatus FSPathMakeRefWithOptions(const UInt8* path, OptionBits options, FSRef* ref,
                                   Boolean* is_directory);
 
-// The same with a last link followed.
+// The same with kFSPathMakeRefDefaultOptions.
 OSStatus FSPathMakeRef(const UInt8* path, FSRef* ref, Boolean* is_directory);
 
-// Writes the object's absolute path into `buffer` of `size` bytes: UTF-8, NUL-terminated, its
-// directories resolved and each component spelled as the file system stores it. A buffer that is
-// too small is ENAMETOOLONG.
+// Writes the object's absolute path to `buffer` of `size` bytes: UTF-8, NUL-terminated, without
+// links, each component spelled as the file system stores it. ENAMETOOLONG if it does not fit.
 OSStatus FSRefMakePath(const FSRef* ref, UInt8* buffer, UInt32 size);
 
 #endif

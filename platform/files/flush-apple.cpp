@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kOpenDirectories = 16;
 
-// What cannot be opened for reading is no failure: the copy is as good as its package made it.
+// A package may have files that cannot be opened for reading.
 int FlushOne(const char* path, const struct stat* status, int, FTW*) {
     if (!S_ISREG(status->st_mode) && !S_ISDIR(status->st_mode)) {
         return 0;
@@ -24,8 +24,8 @@ int FlushOne(const char* path, const struct stat* status, int, FTW*) {
 
 }  // namespace
 
-// fsync(2) hands the data to the drive, and F_FULLFSYNC has the drive write all that it was handed,
-// the journal with the names included. sync(2) would not wait.
+// fsync(2) sends the data to the drive, and F_FULLFSYNC makes the drive write everything it has,
+// including the journal with the names. sync(2) does not wait.
 int FlushTree(const char* path) {
     if (nftw(path, FlushOne, kOpenDirectories, FTW_PHYS) != 0) {
         return -1;

@@ -1,4 +1,4 @@
-// What a process relies on from its first line on.
+// Prepares the process.
 #include "platform/process/process-setup.h"
 
 #include <fcntl.h>

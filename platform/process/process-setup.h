@@ -1,17 +1,11 @@
-// What a process relies on from its first line on.
+// Prepares the process.
 #pragma once
 
-// Prepares the process that the launcher was started as, whatever it inherited:
+// Sets up what the process may have inherited in an unsuitable state. Opens /dev/null for each
+// closed standard stream, so that no other file gets its descriptor. Keeps the owner's rights in
+// the umask (umask(2)), because a copy needs them. Makes a relative $HOME absolute, because the
+// client runs in another directory. Ignores SIGHUP, because the terminal may close during a run,
+// and SIGPIPE and SIGXFSZ, so that the write fails instead. Resets SIGCHLD, which waitpid(2) needs.
 //
-// - Closed descriptors among 0 to 2 are opened on /dev/null, so that no file that is opened later
-//   becomes standard output.
-// - The umask keeps the owner's rights (umask(2)). A copy that its owner cannot enter or start
-// would
-//   otherwise replace a working one.
-// - A relative $HOME becomes absolute, because the client is started in another directory.
-// - SIGHUP is ignored: the terminal may close during a run. SIGPIPE and SIGXFSZ are ignored, so
-// that
-//   the write fails instead (EPIPE, EFBIG). SIGCHLD has its default, which waitpid(2) needs.
-//
-// Precondition: it is the first call of main, and there is one thread.
+// Precondition: it is the first call in main, with one thread.
 void PrepareProcess();

@@ -20,10 +20,15 @@ constexpr int kStartLimit = 5000;  // milliseconds, for each stage up to kReady
 constexpr int kExitLimit = 3000;   // from kOpened on
 constexpr int kNoLimit = -1;
 
+struct Report {
+    Stage stage = Stage::kStarted;
+    char backups = 0;
+};
+
 struct End {
-    Stage reached = Stage::kStarted;
+    Report last;
     bool hung = false;
-    int status = 0;  // as waitpid(2) returns it; unused if `reached` is kOpened
+    int status = 0;  // as waitpid(2) returns it; unused after kOpened
 };
 
 // In the supervisor: the child, for the signal handler. In the child: 0.
@@ -67,10 +72,10 @@ void Fork() {
 }
 
 int Limit(Stage reached) {
-    if (reached == Stage::kReady) {
-        return kNoLimit;
+    if (reached < Stage::kReady) {
+        return kStartLimit;
     }
-    return reached == Stage::kOpened ? kExitLimit : kStartLimit;
+    return reached == Stage::kOpened ? kExitLimit : kNoLimit;
 }
 
 // Result: 1 with a report or the end of the pipe, 0 when the time is over.
@@ -88,15 +93,15 @@ int WaitForReport(int reports, int limit) {
 End Watch(int reports) {
     End end;
     for (;;) {
-        end.hung = WaitForReport(reports, Limit(end.reached)) == 0;
-        if (end.hung || read(reports, &end.reached, sizeof end.reached) <= 0) {
+        end.hung = WaitForReport(reports, Limit(end.last.stage)) == 0;
+        if (end.hung || read(reports, &end.last, sizeof end.last) <= 0) {
             break;
         }
     }
     if (end.hung) {
         kill(g_child, SIGKILL);
     }
-    if (end.reached != Stage::kOpened) {
+    if (end.last.stage != Stage::kOpened) {
         waitpid(g_child, &end.status, 0);
     }
     return end;
@@ -104,25 +109,22 @@ End Watch(int reports) {
 
 // A second instance ends with 0 before it is ready.
 bool IsOver(const End& end) {
-    return end.reached == Stage::kOpened || (WIFEXITED(end.status) && WEXITSTATUS(end.status) == 0);
+    return end.last.stage == Stage::kOpened ||
+           (WIFEXITED(end.status) && WEXITSTATUS(end.status) == 0);
 }
 
 StartMode NextMode(StartMode mode, const End& end) {
-    if (end.reached == Stage::kReady) {
-        return mode < StartMode::kAfterRepair ? StartMode::kAfterRepair : StartMode::kOpenOnly;
+    const StartMode next = static_cast<StartMode>(static_cast<int>(mode) + 1);
+    if (end.last.stage >= Stage::kReady) {
+        return std::max(next, StartMode::kAfterRepair);
     }
-    if (mode >= StartMode::kWithoutDisplay) {
-        return StartMode::kOpenOnly;
-    }
-    if (end.hung && end.reached == Stage::kStarted) {
-        return StartMode::kWithoutDisplay;
-    }
-    return static_cast<StartMode>(static_cast<int>(mode) + 1);
+    const bool hung_display = end.hung && end.last.stage == Stage::kStarted;
+    return hung_display ? std::max(next, StartMode::kWithoutDisplay) : next;
 }
 
 std::string Cause(const End& end) {
     const std::string when =
-        end.reached == Stage::kReady ? "during the run" : "before its window was ready";
+        end.last.stage >= Stage::kReady ? "during the run" : "before its window was ready";
     if (end.hung) {
         return "did not answer " + when;
     }
@@ -134,7 +136,7 @@ std::string Cause(const End& end) {
 }
 
 void ExitInTheRun() {
-    if (g_stage == Stage::kReady) {
+    if (g_stage != Stage::kOpened) {
         _exit(EXIT_FAILURE);
     }
 }
@@ -167,15 +169,20 @@ int Supervise(int (*launcher)(const Attempt&, int, char**), int argc, char** arg
         }
         attempt.mode = NextMode(attempt.mode, end);
         attempt.cause = Cause(end);
+        if (end.last.stage >= Stage::kMoved) {
+            attempt.reached = end.last.stage;
+            attempt.backups = end.last.backups;
+        }
     }
 }
 
-void ReportStage(Stage stage) {
+void ReportStage(Stage stage, char backups) {
     g_stage = stage;
     if (stage == Stage::kReady) {
         std::atexit(ExitInTheRun);
     }
     // Without a supervisor, or after its end, nobody reads the report.
-    while (write(g_reports, &stage, sizeof stage) < 0 && errno == EINTR) {
+    const Report report = {stage, backups};
+    while (write(g_reports, &report, sizeof report) < 0 && errno == EINTR) {
     }
 }

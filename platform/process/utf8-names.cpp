@@ -17,7 +17,7 @@ bool CharactersAreUtf8() {
 }  // namespace
 
 void UseUtf8FileNames() {
-    // glibc and musl, older Debian, Apple and the BSDs, and what most machines have anyway.
+    // glibc and musl, older Debian, Apple and the BSDs, most machines.
     for (const char* locale : {"C.UTF-8", "UTF-8", "en_US.UTF-8"}) {
         if (CharactersAreUtf8() || std::setlocale(LC_CTYPE, locale) != nullptr) {
             break;

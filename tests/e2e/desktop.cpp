@@ -1,4 +1,4 @@
-// Xvfb, openbox and xdotool; slow packages and the spy.
+// Xvfb, openbox and xdotool; slow packages; the spy plug-in.
 #include "e2e/desktop.h"
 
 #include <fcntl.h>
@@ -18,10 +18,10 @@ Desktop::Desktop(int resolution) {
     server_.start("Xvfb", {"-displayfd", "1", "-noreset", "-listen", "tcp", "-screen", "0", "1280x800x24"});
     EXPECT_TRUE(WaitFor([&] { return server_.canReadLine() || server_.waitForReadyRead(100); }));
     display_ = ":" + server_.readLine().trimmed();
-    // As desktops say it. The display's own size is not taken for it by every Qt.
+    // Desktops set this. Some releases of Qt ignore the physical size of the screen.
     QProcess::execute("xprop", {"-display", display_, "-root", "-f", "RESOURCE_MANAGER", "8s", "-set",
                                 "RESOURCE_MANAGER", "Xft.dpi:\t" + QString::number(resolution)});
-    // Its keys are the usual ones, whatever this user has configured.
+    // Default key bindings, not those of this user.
     manager_.start("env", {"DISPLAY=" + display_, "HOME=" + QDir::tempPath(), "XDG_CONFIG_HOME=", "openbox",
                            "--startup", "echo ready"});
     EXPECT_TRUE(manager_.waitForReadyRead());
@@ -60,13 +60,13 @@ SlowPackage::SlowPackage(const World& world)
     EXPECT_EQ(mkfifo(path_.c_str(), S_IRUSR | S_IWUSR), 0);
 }
 
-// Whoever waits reads the FIFO; whoever comes later, the file.
+// A waiting launcher reads the FIFO; later ones read the file.
 void SlowPackage::Arrive() const {
     UniqueFd fifo;
     EXPECT_TRUE(WaitFor([&] {
         fifo.reset(open(path_.c_str(), O_WRONLY | O_NONBLOCK));
         return fifo.valid();
-    })) << "nobody reads the package";
+    })) << "no launcher reads the package";
     WriteFile(path_ + ".new", package_);
     fs::rename(path_ + ".new", path_);
     EXPECT_EQ(write(fifo.get(), package_.data(), package_.size()), static_cast<ssize_t>(package_.size()));
@@ -77,7 +77,7 @@ void Spy(World& world, const char* how) {
     world.environment.insert("QT_QPA_GENERIC_PLUGINS", how);
 }
 
-std::string Told(const Outcome& run) {
-    QStringList told = QString::fromStdString(run.err).split('\n').filter(QRegularExpression("^window: "));
-    return told.replaceInStrings("window: ", "").join('\n').toStdString();
+std::string SpyOutput(const Outcome& run) {
+    QStringList lines = QString::fromStdString(run.err).split('\n').filter(QRegularExpression("^window: "));
+    return lines.replaceInStrings("window: ", "").join('\n').toStdString();
 }

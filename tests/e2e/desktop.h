@@ -1,4 +1,4 @@
-// A desktop for tests: an X display with a window manager; and eyes inside the launcher.
+// An X display with a window manager, slow packages, and the spy plug-in.
 #pragma once
 
 #include "e2e/harness.h"
@@ -8,12 +8,12 @@ class Desktop {
     explicit Desktop(int resolution = 96);
     ~Desktop();
 
-    // Has the launcher of `world` use this display.
+    // Makes the launcher of `world` use this display.
     void Show(World& world) const;
     QString Display() const { return display_; }
-    // Has xdotool do something, to its end. Result: what it wrote.
+    // Runs xdotool to its end. Result: its output.
     QString Do(const QStringList& words) const;
-    // The visible window of a start, as xdotool's number; empty without one.
+    // xdotool's number of the visible window of a start; empty without one.
     QString Window(const QProcess& start) const;
     void SignalServer(int number) { kill(static_cast<pid_t>(server_.processId()), number); }
     void KillWindowManager();
@@ -24,10 +24,10 @@ class Desktop {
     QString display_;
 };
 
-// A package that is slow to arrive: a FIFO (fifo(7)). An upgrade shows its window, then waits for it.
+// A package that arrives slowly: a FIFO (fifo(7)). The upgrade shows its window and waits.
 class SlowPackage {
   public:
-    // In the place of the package that `world` offers.
+    // Replaces the package in the bundle of `world`.
     explicit SlowPackage(const World& world);
     // Delivers the package.
     void Arrive() const;
@@ -37,7 +37,7 @@ class SlowPackage {
     std::string package_;
 };
 
-// Has the launcher tell what its window does; `how` is for the plug-in in spy.cpp.
+// Loads the plug-in of spy.cpp into the launcher.
 void Spy(World& world, const char* how = "spy");
-// What it has told.
-std::string Told(const Outcome& run);
+// The lines that it has written.
+std::string SpyOutput(const Outcome& run);

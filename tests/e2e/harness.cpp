@@ -62,7 +62,7 @@ World::World(const std::string& name) : home_name(name), environment(QProcessEnv
     environment.insert("LANG", "C.UTF-8");
 }
 
-// Their environment tells which processes have to do with this directory (proc(5)).
+// Processes of this test have its directory in their environment (proc(5)).
 World::~World() {
     for (const auto& process : fs::directory_iterator("/proc")) {
         const pid_t pid = std::atoi(process.path().filename().c_str());
@@ -82,7 +82,9 @@ std::vector<std::string> World::Locks() const {
 
 void World::Offer(int build, const std::string& package) {
     WriteFile(Bundle() + kInfo, Info(build));
-    WriteFile(Bundle() + "/Contents/Resources/package/quillmere.qpk", package);
+    const std::string path = Bundle() + "/Contents/Resources/package/quillmere.qpk";
+    fs::remove(path);
+    WriteFile(path, package);
 }
 
 void World::Have(int build) const {
@@ -96,7 +98,7 @@ void World::LogEverything() {
               "launcher_debug=7\nservice_debug=7\nextractor_debug=7\nfile_op_debug=7\n");
 }
 
-std::unique_ptr<QProcess> World::Start(const std::function<void()>& in_child, const QStringList& arguments) const {
+std::unique_ptr<QProcess> World::Spawn(const std::function<void()>& in_child, const QStringList& arguments) const {
     auto process = std::make_unique<ChildProcess>(in_child);
     process->setProcessEnvironment(environment);
     process->start(QString::fromStdString(program.empty() ? LauncherPath() : program), arguments);
@@ -155,11 +157,11 @@ bool WaitFor(const std::function<bool()>& condition, int seconds) {
     return true;
 }
 
-// A zombie is as good as gone: nobody is left that could run.
+// A zombie counts as dead.
 bool IsAlive(pid_t pid) {
     const std::string status = ReadFile("/proc/" + std::to_string(pid) + "/stat");
-    const std::size_t behind_name = status.rfind(") ");
-    return behind_name != std::string::npos && status[behind_name + 2] != 'Z';
+    const std::size_t end_of_name = status.rfind(") ");
+    return end_of_name != std::string::npos && status[end_of_name + 2] != 'Z';
 }
 
 void Kill(pid_t pid) {

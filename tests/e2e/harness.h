@@ -1,4 +1,4 @@
-// A bundle, a home and runs of the real launcher, for one test.
+// A bundle, a home directory and runs of the real launcher, for one test.
 #pragma once
 
 #include <signal.h>
@@ -11,26 +11,26 @@
 
 #include "temp_dir.h"
 
-// What a package is made of, in this order: paths and contents; "/" ends the path of a directory.
+// Paths and contents of a package, in order. The path of a directory ends with "/".
 using PackageEntries = std::vector<std::pair<std::string, std::string>>;
 
-// A client that has a pid file, ends on SIGTERM (not with --ignore-sigterm), and does nothing else.
+// A client that writes its pid file and exits on SIGTERM, except with --ignore-sigterm.
 extern const std::string kLightClient;
 
-// A client and an INFO with this build number, and `extra` files between them.
+// A client, `extra` files, and an INFO with this build number.
 PackageEntries ClientPackage(int build, const PackageEntries& extra = {}, const std::string& client = kLightClient);
-// The entries as a tar, compressed by zstd.
+// Returns the entries as a tar compressed by zstd.
 std::string Pack(const PackageEntries& entries);
 
 struct Outcome {
     int exit_code = -1;
-    bool normal = false;  // it ended by itself and not by a signal
+    bool normal = false;  // exited, not killed by a signal
     qint64 milliseconds = 0;
     std::string out;
     std::string err;
 };
 
-// Everything lies below one temporary directory; what runs there is ended with it.
+// Everything is in one temporary directory. The destructor kills the processes that use it.
 class World {
   public:
     explicit World(const std::string& home_name = "home");
@@ -39,22 +39,22 @@ class World {
     // Puts a package with this build number into the bundle.
     void Offer(int build, const std::string& package);
     void Offer(int build) { Offer(build, Pack(ClientPackage(build))); }
-    // Has a copy with this build number installed, without a run.
+    // Installs a copy with this build number, without the launcher.
     void Have(int build) const;
     // Sets log thresholds for all components.
     void LogEverything();
 
     // `in_child` runs between fork and exec.
-    std::unique_ptr<QProcess> Start(
+    std::unique_ptr<QProcess> Spawn(
         const std::function<void()>& in_child = [] {}, const QStringList& arguments = {}) const;
     Outcome Finish(QProcess& process) const;
-    Outcome Launch() const { return Finish(*Start()); }
+    Outcome Run() const { return Finish(*Spawn()); }
 
-    // The process that the pid file names; 0 without one.
+    // The process id in the pid file, or 0.
     pid_t ClientPid() const;
-    // Waits for a client. Result: its process id; 0 after some seconds.
+    // Waits up to 10 s for a client. Result: its process id, or 0.
     pid_t WaitForClient() const;
-    // The bundle's locks in the directory that all users share.
+    // The bundle's lock files in /tmp.
     std::vector<std::string> Locks() const;
 
     std::string Home() const { return dir / home_name; }
@@ -65,7 +65,7 @@ class World {
     std::string Plugins() const { return Bundle() + "/Contents/Frameworks/plugins"; }
     std::string LauncherPath() const { return Bundle() + "/Contents/MacOS/launcher"; }
     std::string Log() const { return ReadFile(User() + "/log/launcher.log"); }
-    // The build number of the installed copy, "" without one.
+    // The build number of the installed copy, or "".
     std::string Installed() const;
 
     const TempDir dir;
@@ -74,22 +74,22 @@ class World {
     QProcessEnvironment environment;
 };
 
-// Whether the launcher ended by itself and with 0.
+// Whether the launcher exited with 0.
 testing::AssertionResult EndedWell(const Outcome& run);
-// The same, with this build as the only copy, and its client opened.
+// Whether it also left this build as the only copy and opened its client.
 testing::AssertionResult Succeeded(const Outcome& run, const World& world, int build);
 bool Contains(const std::string& text, const std::string& part);
 
-// Polls `condition` until it holds. Result: false when it does not within `seconds`.
+// Polls `condition` until it holds. Result: false if it does not hold within `seconds`.
 bool WaitFor(const std::function<bool()>& condition, int seconds = 10);
 bool IsAlive(pid_t pid);
-// The process of a start that does the work: the child of the supervisor. 0 if there is none.
+// The working process of a start, which is the child of the supervisor; or 0.
 pid_t LauncherOf(const QProcess& start);
 // Kills both processes of a start.
 void KillStart(QProcess& start);
 // Kills a process and waits until it is gone.
 void Kill(pid_t pid);
 
-// A user that owns nothing and has no processes. In a child process of root's: becomes it.
+// A user id without files and processes. A child process of root becomes that user.
 extern const uid_t kLoner;
 void BecomeLoner();

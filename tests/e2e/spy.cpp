@@ -1,6 +1,6 @@
-// Tells on standard error what the progress window does, from inside the launcher: a plug-in that
-// Qt loads for QT_QPA_GENERIC_PLUGINS=spy. With "spy:exit" it ends the process, as Qt does when a
-// display goes while the application object is built.
+// A plug-in that Qt loads for QT_QPA_GENERIC_PLUGINS=spy. It writes what the progress window does to
+// standard error. "spy:exit" ends the process, as Qt does if the display disappears during the
+// construction of the application object.
 #include <QApplication>
 #include <QDir>
 #include <QEvent>
@@ -14,9 +14,9 @@
 
 namespace {
 
-void Tell(const QString& line) { std::fprintf(stderr, "window: %s\n", line.toUtf8().constData()); }
+void Report(const QString& line) { std::fprintf(stderr, "window: %s\n", line.toUtf8().constData()); }
 
-// The languages of which a text does not fit between the margins.
+// The languages with a text that is too wide for the label.
 QString CutOff(const QLabel& label) {
     QString cut;
     for (const QString& file : QDir(":/").entryList({"???.qm"})) {
@@ -31,21 +31,22 @@ QString CutOff(const QLabel& label) {
     return cut;
 }
 
-// What is shown is spoilt each time, so that the same once more makes a difference.
+// Overwrites label and bar after each report, so that setting the same value again is a change.
 void OnShow(const QProgressDialog& dialog) {
     const auto label = dialog.findChild<QLabel*>();
     const auto bar = dialog.findChild<QProgressBar*>();
-    Tell(dialog.windowTitle() + ", " + label->text());
-    Tell(QString("%1 pixels on %2, icon of %3, %4 on %5, cut off:%6")
-             .arg(qRound(dialog.width() * dialog.devicePixelRatioF() / 10) * 10)
-             .arg(QGuiApplication::platformName())
-             .arg(dialog.windowIcon().actualSize({500, 500}).width())
-             .arg(label->palette().windowText().color().name())
-             .arg(bar->palette().base().color().name())
-             .arg(CutOff(*label)));
-    label->setText("spoilt");
+    Report(dialog.windowTitle() + ", " + label->text());
+    Report(QString("%1 pixels on %2, modal: %7, icon of %3, %4 on %5, cut off:%6")
+               .arg(qRound(dialog.width() * dialog.devicePixelRatioF() / 10) * 10)
+               .arg(QGuiApplication::platformName())
+               .arg(dialog.windowIcon().actualSize({500, 500}).width())
+               .arg(label->palette().windowText().color().name())
+               .arg(bar->palette().base().color().name())
+               .arg(CutOff(*label))
+               .arg(dialog.isModal()));
+    label->setText("overwritten");
     QObject::connect(bar, &QProgressBar::valueChanged, [label, bar](int value) {
-        Tell(QString("%1, %2").arg(value).arg(label->text()));
+        Report(QString("%1, %2").arg(value).arg(label->text()));
         const QSignalBlocker blocker(bar);
         bar->setValue(value % 100);
     });
@@ -65,7 +66,7 @@ class Plugin : public QGenericPlugin {
         if (dialog != nullptr && event->type() == QEvent::Show) {
             OnShow(*dialog);
         } else if (dialog != nullptr && event->type() == QEvent::Hide) {
-            Tell("hidden, " + dialog->labelText());
+            Report("hidden, " + dialog->labelText());
         }
         return false;
     }

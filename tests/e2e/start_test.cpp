@@ -1,4 +1,4 @@
-// Starts in sessions of many kinds, and several starts at once.
+// Starts in many kinds of sessions, several starts at once, and starts whose processes die.
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/resource.h>
@@ -14,39 +14,47 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct Start {
+struct Session {
     const char* name;
-    bool shows;  // the window on a display, and a spy can be heard
+    bool shows;  // the window, and the spy can write
     std::function<void(World&)> prepare;
     std::vector<int> closed = {};  // descriptors
+    QStringList arguments = {};
     World world = World();
     std::unique_ptr<QProcess> process = nullptr;
+    QElapsedTimer since_start = {};
 };
 
-// No start may start a bus for the session: what the D-Bus library would run for it tells.
-void Begin(Start& start) {
-    Spy(start.world);
-    const std::string trap = start.world.dir / "bin/dbus-launch";
+// A start must not start a bus for the session. The D-Bus library would run this dbus-launch.
+void Begin(Session& session) {
+    World& world = session.world;
+    Spy(world);
+    const std::string trap = world.dir / "bin/dbus-launch";
     WriteFile(trap, "#!/bin/sh\necho >\"$HOME/started\"\n");
     fs::permissions(trap, fs::perms::owner_all);
-    start.world.environment.insert("PATH", QString::fromStdString(start.world.dir / "bin:") + qgetenv("PATH"));
-    start.prepare(start.world);
-    start.world.Offer(1);
-    start.process = start.world.Start([&start] {
-        fs::current_path(start.world.dir.path());
-        std::for_each(start.closed.begin(), start.closed.end(), close);
-    });
+    world.environment.insert("PATH", QString::fromStdString(world.dir / "bin:") + qgetenv("PATH"));
+    session.prepare(world);
+    world.Offer(1);
+    session.since_start.start();
+    session.process = world.Spawn(
+        [&session] {
+            fs::current_path(session.world.dir.path());
+            std::for_each(session.closed.begin(), session.closed.end(), close);
+        },
+        session.arguments);
 }
 
-void Check(const Start& start) {
-    SCOPED_TRACE(start.name);
-    const Outcome run = start.world.Finish(*start.process);
-    EXPECT_TRUE(Succeeded(run, start.world, 1));
-    EXPECT_EQ(Contains(Told(run), "on xcb"), start.shows);
-    EXPECT_FALSE(Contains(start.world.Log(), "lib path") || fs::exists(start.world.Home() + "/started"));
+void Check(const Session& session) {
+    SCOPED_TRACE(session.name);
+    const Outcome run = session.world.Finish(*session.process);
+    EXPECT_TRUE(Succeeded(run, session.world, 1));
+    EXPECT_EQ(Contains(SpyOutput(run), "on xcb"), session.shows);
+    EXPECT_FALSE(Contains(session.world.Log(), "lib path"));
+    EXPECT_FALSE(fs::exists(session.world.Home() + "/started"));
+    EXPECT_LT(session.since_start.elapsed(), 8000) << "one limit of 5 s at most";
 }
 
-// With a variable and the display, if there is one, in the environment.
+// Sets DISPLAY, if not empty, and another variable.
 std::function<void(World&)> With(const QString& display, const char* variable = "LANG", const QString& value = "C") {
     return [=](World& world) {
         world.environment.remove("QT_QPA_PLATFORM");
@@ -55,7 +63,7 @@ std::function<void(World&)> With(const QString& display, const char* variable = 
     };
 }
 
-// With zeros in the platform plug-ins, or with none.
+// Overwrites `count` bytes of the platform plug-ins with zeros, or removes the plug-ins if `count` is 0.
 std::function<void(World&)> WithPlugins(const QString& display, std::size_t at, std::size_t count) {
     return [=](World& world) {
         With(display)(world);
@@ -69,7 +77,7 @@ std::function<void(World&)> WithPlugins(const QString& display, std::size_t at, 
     };
 }
 
-// Takes connections as an X display does. Result: its name.
+// Accepts connections as an X display does. Result: the name of the display.
 QString ListenAsDisplay(QTcpServer& server) {
     int number = 101;
     while (!server.listen(QHostAddress::LocalHost, static_cast<quint16>(6000 + number))) { ++number; }
@@ -78,7 +86,7 @@ QString ListenAsDisplay(QTcpServer& server) {
 
 }  // namespace
 
-TEST(Start, InSessionsOfManyKinds) {
+TEST(Launcher, StartsInSessionsOfManyKinds) {
     const Desktop desktop;
     const QString display = desktop.Display();
     const TempDir dir;
@@ -87,18 +95,20 @@ TEST(Start, InSessionsOfManyKinds) {
     ASSERT_TRUE(bus.listen(bus_name));
     QTcpServer silent;
     QTcpServer stammering;
-    Start slow[] = {
+    Session slow[] = {
         {"silent display", false, With(ListenAsDisplay(silent))},
         {"half an answer", false, With(ListenAsDisplay(stammering))},
         {"silent bus", true, With(display, "DBUS_SESSION_BUS_ADDRESS", "unix:path=" + bus_name)},
+        {"silent session manager", true, With(display, "SESSION_MANAGER", "unix/unix:" + bus_name)},
     };
-    Start quick[] = {
+    Session quick[] = {
         {"display", true, With(display)},
         {"display by IPv6", true, With("[::1]" + display)},
         {"no display", false, With("")},
         {"nobody's display", false, With(":4242", "QT_QPA_PLATFORM", "xcb")},
         {"Wayland without its plug-in", true, With(display, "QT_QPA_PLATFORM", "wayland")},
         {"exit while Qt starts", false, With(display, "QT_QPA_GENERIC_PLUGINS", "spy:exit")},
+        {"arguments that end Qt", false, With(display), {}, {"-platform", "nonsense"}},
         {"streams 0 and 1 closed", true, With(display), {0, 1}},
         {"streams 1 and 2 closed", false, With(display), {1, 2}},
         {"streams 0 to 2 closed", false, With(display), {0, 1, 2}},
@@ -112,25 +122,25 @@ TEST(Start, InSessionsOfManyKinds) {
     QTcpSocket* const half = stammering.nextPendingConnection();
     half->write("\1\0\13\0\0\0\377\0", 8);
     half->flush();
-    for (Start& start : quick) {
-        Begin(start);
-        Check(start);
+    for (Session& session : quick) {
+        Begin(session);
+        Check(session);
     }
     std::for_each(std::begin(slow), std::end(slow), Check);
 }
 
-// A limit of one is the launcher itself, which then becomes the client.
-TEST(Start, WithoutThreadsProcessesOrAHome) {
+// With a limit of one process, the launcher becomes the client.
+TEST(Launcher, StartsWithoutThreadsProcessesOrAHome) {
     if (getuid() != 0) { GTEST_SKIP() << "needs root to become another user"; }
-    for (const rlim_t limit : {1, 2, 3, 4000}) {
+    for (const rlim_t limit : {1, 2, 3, 4, 4000}) {
         const bool has_home = limit != 4000;
         World world;
-        // A sanitizer looks for leaks in a process of its own.
+        // The leak sanitizer needs another process.
         world.environment.insert("ASAN_OPTIONS", "detect_leaks=0");
         fs::permissions(world.dir.path(), fs::perms(0755));
         ASSERT_EQ(chown(world.Home().c_str(), has_home ? kLoner : 0, 0), 0);
         world.Offer(1, Pack(ClientPackage(1, {}, "#!/bin/sh\necho >\"$HOME/.Quillmere/open\"\n")));
-        const Outcome run = world.Finish(*world.Start([limit] {
+        const Outcome run = world.Finish(*world.Spawn([limit] {
             BecomeLoner();
             const rlimit processes = {limit, limit};
             setrlimit(RLIMIT_NPROC, &processes);
@@ -141,8 +151,8 @@ TEST(Start, WithoutThreadsProcessesOrAHome) {
     }
 }
 
-// While one launcher waits in the middle of an upgrade. What a killed one left is nobody's lock.
-TEST(Start, OneAtATime) {
+// While one launcher is upgrading. A killed launcher leaves no lock.
+TEST(Launcher, RunsOneAtATime) {
     World world;
     world.LogEverything();
     world.Have(1);
@@ -153,30 +163,31 @@ TEST(Start, OneAtATime) {
     const auto is_logged = [&world](const char* line, int times) {
         return WaitFor([&] { return QString::fromStdString(world.Log()).count(line) == times; });
     };
-    const auto killed = world.Start();
+    const auto killed = world.Spawn();
     ASSERT_TRUE(is_logged(": extract package: ", 1));
     KillStart(*killed);
-    const auto first = world.Start();
+    const auto first = world.Spawn();
     ASSERT_TRUE(is_logged(": extract package: ", 2));
 
-    // Again from here, from another session, and with another user's lock in the way.
-    EXPECT_TRUE(EndedWell(world.Launch()));
+    // From the same session, from another session, and with another user's lock file in the way.
+    EXPECT_TRUE(EndedWell(world.Run()));
     world.environment.remove("XDG_RUNTIME_DIR");
     world.environment.insert("TMPDIR", QString::fromStdString(world.dir.path()));
-    EXPECT_TRUE(EndedWell(world.Launch()));
+    EXPECT_TRUE(EndedWell(world.Run()));
     const std::vector<std::string> locks = world.Locks();
     ASSERT_EQ(locks.size(), 1u);
+    EXPECT_TRUE(Contains(locks[0], "-" + std::to_string(getuid()) + ".lock"));
     fs::remove(locks[0]);
     WriteFile(locks[0], world.dir.path());
     ASSERT_TRUE(getuid() != 0 || chown(locks[0].c_str(), kLoner, kLoner) == 0);
     const UniqueFd theirs(open(locks[0].c_str(), O_RDWR));
     EXPECT_EQ(flock(theirs.get(), getuid() == 0 ? LOCK_EX : LOCK_UN), 0);
-    EXPECT_TRUE(EndedWell(world.Launch()));
+    EXPECT_TRUE(EndedWell(world.Run()));
     EXPECT_TRUE(is_logged("app has already launched, return", 3));
 
-    // Another bundle is another instance, and waits.
+    // A launcher of another bundle waits.
     world.program = world.dir / "Other.app/Contents/MacOS/launcher";
-    const auto other = world.Start();
+    const auto other = world.Spawn();
     EXPECT_TRUE(WaitFor([&] {
         const std::string waits = "-> FLOCK  ADVISORY  WRITE " + std::to_string(LauncherOf(*other)) + " ";  // proc(5)
         return Contains(ReadFile("/proc/locks"), waits);
@@ -186,7 +197,60 @@ TEST(Start, OneAtATime) {
     EXPECT_TRUE(Succeeded(world.Finish(*first), world, 2));
     EXPECT_TRUE(Succeeded(world.Finish(*other), world, 2));
     world.program.clear();
-    EXPECT_TRUE(Succeeded(world.Launch(), world, 2));
+    EXPECT_TRUE(Succeeded(world.Run(), world, 2));
     EXPECT_TRUE(is_logged(": no need to upgrade\n", 2));
-    EXPECT_EQ(world.Locks().size(), getuid() == 0 ? 1u : 0u) << "another's lock is gone";
+    EXPECT_EQ(world.Locks().size(), getuid() == 0 ? 1u : 0u) << "the other user's lock file is gone";
+}
+
+// A signal kills a process of the start while the package arrives slowly.
+TEST(Launcher, GoesOnWhenItsWorkingProcessDies) {
+    const auto supervisor = [](const QProcess& start) { return static_cast<pid_t>(start.processId()); };
+    const std::function<pid_t(const QProcess&)> worker = LauncherOf;
+    enum Then { kSameStart, kWorkerAlone, kNextStart };
+    const struct {
+        const char* name;
+        std::function<pid_t(const QProcess&)> target;
+        int number;
+        Then goes_on;
+        std::string cause;
+    } cases[] = {
+        {"killed", worker, SIGKILL, kSameStart, "was ended by a signal (Killed) during the run"},
+        {"crashed", worker, SIGSEGV, kSameStart, "was ended by a signal (Segmentation fault) during the run"},
+        {"aborted", worker, SIGABRT, kSameStart, "was ended by a signal (Aborted) during the run"},
+        {"supervisor killed", supervisor, SIGKILL, kWorkerAlone, ""},
+        {"asked to end", supervisor, SIGTERM, kNextStart, ""},
+        {"interrupted", supervisor, SIGINT, kNextStart, ""},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.name);
+        World world;
+        world.environment.insert("ASAN_OPTIONS", "handle_segv=0");
+        world.environment.insert("TSAN_OPTIONS", "handle_segv=0");
+        world.LogEverything();
+        world.Have(1);
+        world.Offer(2);
+        const SlowPackage package(world);
+        const auto start = world.Spawn();
+        ASSERT_TRUE(WaitFor([&] { return Contains(world.Log(), ": extract package: "); }));
+        const pid_t launcher = LauncherOf(*start);
+        EXPECT_EQ(kill(row.target(*start), row.number), 0);
+        if (row.goes_on == kNextStart) {
+            EXPECT_TRUE(WaitFor([&] { return !IsAlive(launcher); }));
+            EXPECT_FALSE(world.Finish(*start).normal);
+            EXPECT_EQ(world.ClientPid(), 0);
+            world.Offer(2);
+            EXPECT_TRUE(Succeeded(world.Run(), world, 2));
+            continue;
+        }
+        // A process that is dying may still have the package open.
+        EXPECT_TRUE(row.goes_on == kWorkerAlone || WaitFor([&] { return !IsAlive(launcher); }));
+        package.Arrive();
+        EXPECT_EQ(world.Finish(*start).normal, row.goes_on == kSameStart);
+        EXPECT_NE(world.WaitForClient(), 0);
+        EXPECT_EQ(world.Installed(), "2");
+        EXPECT_FALSE(fs::exists(world.App() + "_tmp"));
+        const std::string warning = ": the previous attempt " + row.cause + "; this one has no display and puts ";
+        EXPECT_EQ(QString::fromStdString(world.Log()).count(" [WARNING] "), row.cause.empty() ? 0 : 1);
+        EXPECT_EQ(Contains(world.Log(), warning), !row.cause.empty());
+    }
 }

@@ -1,4 +1,4 @@
-// The progress window on a real display, and what happens to it.
+// The progress window on a real display: what it shows, and what can happen to it.
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <list>
@@ -9,9 +9,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// What a session manager says, as it stands on the wire (Inter-Client Exchange Protocol, X Session Management
-// Protocol): ByteOrder, ConnectionReply, ProtocolReply and RegisterClientReply; before the end of the session,
-// SaveYourself; Ping; and Die. And the client's SaveYourselfDone and PingReply.
+// Messages of a session manager (Inter-Client Exchange Protocol, X Session Management Protocol): ByteOrder,
+// ConnectionReply, ProtocolReply and RegisterClientReply; SaveYourself; Ping; Die. The client's SaveYourselfDone and
+// PingReply.
 const QByteArray kWelcome = QByteArray::fromHex(
     "0001000000000000 00060000010000000000000000000000 00080001010000000000000000000000"
     "01020000010000000100000078000000");
@@ -21,17 +21,20 @@ const QByteArray kSaved = QByteArray::fromHex("0108010000000000");
 const QByteArray kPing = QByteArray::fromHex("0009000000000000");
 const QByteArray kPingReply = QByteArray::fromHex("000a");  // the first two bytes of eight
 
-// A launcher in the middle of an upgrade, with its window on a desktop of its own.
+// A launcher during an upgrade, with its window on its own desktop.
 struct Scene {
     Scene() {
         desktop.Show(world);
         const QString name = QString::fromStdString(world.dir / "session");
         EXPECT_TRUE(manager.listen(name));
         world.environment.insert("SESSION_MANAGER", "unix/unix:" + name);
+        // Longer than a std::string stores without allocating.
+        world.environment.insert("TZ", "America/Argentina/ComodRivadavia");
+        world.LogEverything();
         world.Have(1);
         world.Offer(2);
         package = std::make_unique<SlowPackage>(world);
-        launcher = world.Start();
+        launcher = world.Spawn();
         EXPECT_TRUE(manager.waitForNewConnection(10000));
         session = manager.nextPendingConnection();
         Say(kWelcome);
@@ -49,7 +52,7 @@ struct Scene {
         kill(LauncherOf(*launcher), SIGHUP);
         kill(static_cast<pid_t>(launcher->processId()), SIGHUP);
     }
-    // The reply to the ping tells that all was read.
+    // After the reply to the ping, all messages have been read.
     void Save() {
         Say(kSave + kPing);
         EXPECT_TRUE(WaitFor([this] { return Hears({}) && heard.right(8).startsWith(kPingReply); }));
@@ -66,7 +69,7 @@ struct Scene {
 
 }  // namespace
 
-TEST(Window, NothingThatHappensToItStopsTheRun) {
+TEST(ProgressWindow, NothingThatHappensToItStopsTheRun) {
     enum Then { kStays, kGoes };
     const struct {
         const char* name;
@@ -92,7 +95,7 @@ TEST(Window, NothingThatHappensToItStopsTheRun) {
         SCOPED_TRACE(row.name);
         Scene& scene = scenes.emplace_back();
         row.happen(scene);
-        // As a person does it again: the window manager may not listen to its keys yet.
+        // Repeats the action, because the window manager may not be ready for its keys yet.
         EXPECT_TRUE(row.then == kStays || WaitFor([&] {
                         const QString window = scene.desktop.Window(*scene.launcher);
                         scene.desktop.Do(QStringList(row.act).replaceInStrings("WINDOW", window));
@@ -111,24 +114,24 @@ TEST(Window, NothingThatHappensToItStopsTheRun) {
     }
 }
 
-TEST(Window, ShowsTheUpgradeAndNothingElse) {
-    constexpr int kWanted = 168;  // by the user, whatever the display says
+TEST(ProgressWindow, ShowsTheUpgradeAndNothingElse) {
+    constexpr int kWanted = 168;  // the user's setting
     const std::string start = "Quillmere Drive is initializing...";
     const std::string end = "Quillmere Drive is ready.";
-    // Two of three entries, the last one, and the worker; the end of the run.
+    // Each of three entries, the worker, and the end of the run.
     const std::string upgrade = "33, " + start + "\n66, " + start + "\n100, " + start + "\n100, " + start + "\n100, " +
                                 end + "\nhidden, " + end;
     const std::string good = Pack(ClientPackage(2, {{"file", ""}}));
     const std::string bad = "this is no archive";
-    // Qt reads none of them without the first.
+    // Qt ignores the others without the first.
     const std::string dark =
         "[Colors:Button]\nBackgroundNormal=0,0,0\n[Colors:Window]\nForegroundNormal=255,255,255\n"
         "[Colors:View]\nBackgroundNormal=0,0,0\n";
     const struct {
         const char* locale;
         std::string package;
-        std::string label;  // at first; nothing is shown if it is empty
-        std::string rest;   // whatever it is if it is empty
+        std::string label;  // at first; empty if no window appears
+        std::string rest;   // not checked if empty
         int resolution = 96;
         std::string colours = {};
     } cases[] = {
@@ -162,11 +165,12 @@ TEST(Window, ShowsTheUpgradeAndNothingElse) {
         world.Offer(row.label.empty() ? 1 : 2, row.package);
         fs::create_directory(world.Bundle() + "/Contents/Resources/images");
         fs::copy(ICON, world.Bundle() + "/Contents/Resources/images");
-        const Outcome run = world.Launch();
+        const Outcome run = world.Run();
         EXPECT_TRUE(Succeeded(run, world, row.package == good ? 2 : 1));
         const std::string shown = "Quillmere Drive, " + row.label + "\n" + std::to_string(400 * row.resolution / 96) +
-                                  " pixels on xcb, icon of 72, #000000 on #ffffff, cut off:\n";
-        const std::string told = Told(run);
-        EXPECT_EQ(row.rest.empty() ? told.substr(0, shown.size()) : told, row.label.empty() ? "" : shown + row.rest);
+                                  " pixels on xcb, modal: 1, icon of 72, #000000 on #ffffff, cut off:\n";
+        const std::string reported = SpyOutput(run);
+        EXPECT_EQ(row.rest.empty() ? reported.substr(0, shown.size()) : reported,
+                  row.label.empty() ? "" : shown + row.rest);
     }
 }

@@ -1,5 +1,5 @@
-// A start of the launcher whose calls on certain files are seen, and may be answered otherwise than by
-// the system. It uses seccomp_unotify(2), which does not disturb the sanitizers as ptrace(2) does.
+// Runs the launcher and intercepts its calls on certain files. Uses seccomp_unotify(2), because ptrace(2) disturbs
+// the sanitizers.
 #pragma once
 
 #include <fcntl.h>
@@ -20,22 +20,22 @@
 
 enum What { kLook, kOpen, kMake, kWrite, kChange, kRename, kRemove, kFlush };
 
-// A call that is about to be made.
+// An intercepted call.
 struct FileCall {
     What what;
-    std::string path;  // its first path, or that of the file behind its descriptor
+    std::string path;  // its first path, or that of its descriptor
 };
 
 // The answer to a call; a negative errno value is the error to fail with.
 enum : int {
     kGoOn = 0,
-    kKillBoth,      // processes of the start, before the call
-    kKillLauncher,  // before the call; the supervisor goes on
+    kKillBoth,      // both processes, before the call
+    kKillLauncher,  // the working process, before the call
     kHalfOfTheWrite,
     kSuccessWithoutIt
 };
 
-// The calls on files, each with the number of its argument that is a path; -1 for a descriptor.
+// The calls on files, each with the index of its path argument; -1 for a descriptor.
 constexpr struct FileCallNumber {
     unsigned number;
     int path;
@@ -52,7 +52,7 @@ constexpr struct FileCallNumber {
     {SYS_getdents64, -1, kLook}, {SYS_write, -1, kWrite},    {SYS_ftruncate, -1, kChange}, {SYS_fchmod, -1, kChange},
     {SYS_fsync, -1, kChange},    {SYS_syncfs, -1, kFlush}};
 
-// From here on the system asks for each of them. Result: the descriptor that it asks by, or -1.
+// Starts the interception. Result: the descriptor of the notifications, or -1.
 inline int InstallFilter() {
     std::vector<sock_filter> code{BPF_STMT(BPF_LD | BPF_W | BPF_ABS, 0)};  // the call's number
     for (const auto& call : kFileCalls) {
@@ -72,13 +72,13 @@ inline pid_t ProcessOf(pid_t thread) {
     return line == std::string::npos ? 0 : std::atoi(status.c_str() + line + 6);
 }
 
-// A descriptor of another process, as one of this one's.
+// Duplicates a descriptor of another process.
 inline int Borrow(pid_t process, int fd) {
     const UniqueFd handle(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
     return static_cast<int>(syscall(SYS_pidfd_getfd, handle.get(), fd, 0));
 }
 
-// Less than `size` where less is mapped.
+// May return less than `size`.
 inline std::string ReadMemory(pid_t process, __u64 address, std::size_t size) {
     std::string bytes(size, 0);
     const iovec here{bytes.data(), size};
@@ -93,7 +93,7 @@ inline FileCall Describe(pid_t process, const seccomp_data& data) {
     const auto call = std::find_if(std::begin(kFileCalls), std::end(kFileCalls),
                                    [&](auto& row) { return static_cast<int>(row.number) == data.nr; });
     std::string path = call->path < 0 ? "" : ReadMemory(process, data.args[call->path], 4096).c_str();
-    if (path.empty() || path[0] != '/') {  // as it is, or in a directory that is open
+    if (path.empty() || path[0] != '/') {  // relative to a directory descriptor
         std::error_code none;
         const std::string fd = std::to_string(static_cast<int>(data.args[0]));
         const std::string link = "/proc/" + std::to_string(process) + "/fd/" + fd;
@@ -103,21 +103,21 @@ inline FileCall Describe(pid_t process, const seccomp_data& data) {
     return {makes ? kMake : call->what, path};
 }
 
-// Writes the first half for the program. Result: the number of bytes, or -1.
+// Writes the first half instead of the program. Result: the number of bytes, or -1.
 inline ssize_t WriteHalf(pid_t process, const seccomp_data& data) {
     const UniqueFd file(Borrow(process, static_cast<int>(data.args[0])));
     const std::string bytes = ReadMemory(process, data.args[1], (data.args[2] + 1) / 2);
     return write(file.get(), bytes.data(), bytes.size());
 }
 
-// Runs a start until its processes and what they started have ended, a minute at most, and asks `answer`
-// about their own calls on paths that begin with one of `places`. Result: the exit code of the
-// supervisor; -1 if a signal ended it, -2 if the calls cannot be seen here.
+// Runs a start until its processes and their children have ended, at most a minute. Calls `answer` for their calls
+// on paths that begin with one of `places`. Result: the exit code of the supervisor; -1 if a signal ended it, -2 if
+// calls cannot be intercepted here.
 inline int RunIntercepted(const World& world, const std::vector<std::string>& places,
                           const std::function<int(const FileCall&)>& answer) {
     constexpr int kListener = 200;
-    prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0);  // of launchers and clients that outlive their parent
-    const auto supervisor = world.Start([] { dup2(InstallFilter(), kListener); });
+    prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0);  // of processes that outlive their parent
+    const auto supervisor = world.Spawn([] { dup2(InstallFilter(), kListener); });
     const UniqueFd listener(Borrow(static_cast<pid_t>(supervisor->processId()), kListener));
     QElapsedTimer timer;
     timer.start();

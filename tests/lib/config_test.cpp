@@ -1,6 +1,7 @@
 // Tests of the reader of key and value files: which lines it takes, and what a refusal leaves.
 #include "config.h"
 
+#include <climits>
 #include <map>
 
 #include "tests/temp_dir.h"
@@ -54,8 +55,15 @@ TEST(ConfigTest, LinesThatAreTakenAndLinesThatRefuseTheWholeFile) {
 
 TEST(ConfigTest, GetIntTakesTheLeadingDecimalNumber) {
     Config config;
-    for (const auto& [value, number] : std::map<std::string, int>{
-             {"", 0}, {"+7", 7}, {"-3", -3}, {"12abc", 12}, {"abc", 0}, {"010", 10}, {" 4", 4}}) {
+    for (const auto& [value, number] : std::map<std::string, int>{{"", 0},
+                                                                  {"+7", 7},
+                                                                  {"-3", -3},
+                                                                  {"12abc", 12},
+                                                                  {"abc", 0},
+                                                                  {"010", 10},
+                                                                  {" 4", 4},
+                                                                  {"4294967303", INT_MAX},
+                                                                  {"-4294967303", INT_MIN}}) {
         config["k"] = value;
         EXPECT_EQ(config.get_int("k"), number) << value;
     }

@@ -1,8 +1,9 @@
-// What the tests of the file layer share.
+// A fixture for the tests of the file layer.
 #pragma once
 
 #include <sched.h>
 #include <sys/mount.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <regex>
@@ -12,6 +13,7 @@
 
 #include "file/file-op.h"
 #include "log.h"
+#include "tests/hooks.h"
 #include "tests/in_child.h"
 #include "tests/temp_dir.h"
 
@@ -30,7 +32,7 @@ inline struct stat Status(const fs::path& path) {
     return status;
 }
 
-// All there is at a path, as text: mode and what it holds; "0" for nothing.
+// Mode and content of a path, as text; "0" if it does not exist.
 inline std::string Content(const fs::path& path) {
     const mode_t mode = Status(path).st_mode;
     std::string content = std::to_string(mode);
@@ -44,12 +46,12 @@ inline std::string Content(const fs::path& path) {
     return content;
 }
 
-// Mounts of this process's own, so that nothing stays mounted whatever happens.
+// For InChild: a mount namespace, so that no mount outlives the process.
 inline bool OwnMounts() {
     return unshare(CLONE_NEWNS) == 0 && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
-// Works in a directory that any user may enter, with one object of each kind, and logs at the default level.
+// A working directory with one object of each type, for any user; a log with the default levels.
 class FileOp : public testing::Test {
   protected:
     FileOp() {
@@ -66,6 +68,7 @@ class FileOp : public testing::Test {
         descriptors_ = OpenDescriptors();
     }
     ~FileOp() override {
+        hooks::Reset();
         EXPECT_EQ(OpenDescriptors(), descriptors_);
         fs::current_path("/");
         Logger::Destroy();
@@ -74,7 +77,7 @@ class FileOp : public testing::Test {
         WriteFile(logs_ / "levels", "file_op_debug=" + std::to_string(level));
         Logger::Initialize(Logger::TYPE_FILE, logs_ / "log", logs_ / "levels", 1);
     }
-    // What was logged since the last call, less time stamps, tags and line numbers.
+    // Returns the new lines of the log, without time stamps, tags and line numbers.
     std::string TakeLog() {
         static const std::regex cut("[A-Z][a-z]{2} [ 0-9]{2} [0-9:]{8} |file-op\\([1-9]\\d*\\): ");
         const std::string log = ReadFile(logs_ / "log");

@@ -1,4 +1,4 @@
-// Tests of the logger: thresholds, the form of a line, rotation, and many writers.
+// Tests of the logger: thresholds, lines, rotation, threads.
 #include "log.h"
 
 #include <fcntl.h>
@@ -13,6 +13,7 @@
 #include <set>
 #include <thread>
 
+#include "tests/hooks.h"
 #include "tests/temp_dir.h"
 
 struct LoggerTestPeer {
@@ -20,20 +21,6 @@ struct LoggerTestPeer {
     static std::uint64_t& rotations() { return *Logger::log_rotated_count_shared; }
     static int descriptor() { return Logger::log_fp == nullptr ? -1 : fileno(Logger::log_fp); }
 };
-
-std::time_t g_now = 1700000000;
-std::atomic<int> g_locks_made = 0;
-
-extern "C" std::time_t time(std::time_t*) noexcept { return g_now; }
-
-// Takes its time, in which another thread may come here as well.
-extern "C" int pthread_mutex_init(pthread_mutex_t* mutex, const pthread_mutexattr_t*) noexcept {
-    ++g_locks_made;
-    for (int i = 0; i < 2000; ++i) { std::this_thread::yield(); }
-    const pthread_mutex_t unlocked = PTHREAD_MUTEX_INITIALIZER;
-    std::memcpy(mutex, &unlocked, sizeof unlocked);
-    return 0;
-}
 
 namespace {
 
@@ -51,7 +38,9 @@ void Log(const std::string& text) { Log(3, "a", "%s\n", text.c_str()); }
 
 class LoggerTest : public testing::Test {
   protected:
+    LoggerTest() { hooks::g.now = 1700000000; }
     ~LoggerTest() override {
+        hooks::Reset();
         Logger::Destroy();
         EXPECT_EQ(OpenDescriptors(), descriptors_);
     }
@@ -59,7 +48,7 @@ class LoggerTest : public testing::Test {
     int Open(const std::string& path, int rotate_cnt = 50, const std::string& levels = "") {
         return Logger::Initialize(Logger::TYPE_FILE, path, levels, rotate_cnt);
     }
-    // Removes the folder's files. Result: each with its text, less time stamps and ends of lines.
+    // Removes all files. Result: their names and texts, without time stamps and line ends.
     std::string TakeFiles() const {
         static const std::regex cut("[A-Z][a-z]{2} [ 0-9]{2} [0-9:]{8} |\n");
         std::string all;
@@ -75,28 +64,30 @@ class LoggerTest : public testing::Test {
     const std::string log_ = dir_ / "log";
 };
 
+// A threshold stays until another file sets it; a malformed file sets none.
 TEST_F(LoggerTest, LevelsPassUpToTheThresholdOfTheirComponent) {
     const std::string levels = dir_ / "levels";
-    for (const char* const lines : {"e=7\nmalformed line\n", "default_component=7\na=7\nb=5 #w\nc=2\nd=x\n"}) {
+    for (const char* const lines :
+         {"e=7\n", "e=3\nmalformed line\n", "default_component=7\na=7\nb=5 #w\nc=2\nd=x\nz=0\n"}) {
         WriteFile(levels, lines);
         ASSERT_EQ(Open(log_, 50, levels), 0);
     }
     fs::remove(levels);
-    for (const std::string component : {"a", "b", "c", "d", "e"}) {
+    for (const std::string component : {"a", "b", "c", "d", "e", "f"}) {
         for (int level = 3; level <= 7; ++level) { Log(level, component, "%s%d\n", component.c_str(), level); }
     }
-    EXPECT_EQ(TakeFiles(), "log:a3a4a5a6a7b3b4b5e3e4 ");
+    EXPECT_EQ(TakeFiles(), "log:a3a4a5a6a7b3b4b5e3e4e5e6e7f3f4 ");
 }
 
 TEST_F(LoggerTest, ALineIsTheLocalTimeAndTheMessage) {
     ASSERT_EQ(Open(log_), 0);
-    setenv("TZ", "TST-9", 1);
+    setenv("TZ", "TST-1", 1);
     Log("100%");
-    ++g_now;
+    ++hooks::g.now;
     Log("b");
     setenv("TZ", "TST-8", 1);
     Log("c");
-    EXPECT_EQ(ReadFile(log_), "Nov 15 07:13:20 100%\nNov 15 07:13:21 b\nNov 15 06:13:21 c\n");
+    EXPECT_EQ(ReadFile(log_), "Nov 14 23:13:20 100%\nNov 14 23:13:21 b\nNov 15 06:13:21 c\n");
 }
 
 TEST_F(LoggerTest, LongLinesAreWholeAndCountWhenTheyAreWritten) {
@@ -111,15 +102,39 @@ TEST_F(LoggerTest, LongLinesAreWholeAndCountWhenTheyAreWritten) {
     EXPECT_EQ(LoggerTestPeer::size(), 0);
 }
 
-// In a process of its own: nobody has called Initialize before the first lines, of two threads.
-TEST(LoggerDeathTest, LinesGoToTheStreamOfTheTypeAndToTheFormerOneOnFailure) {
+// Waits until a thread of this process sleeps (proc(5)).
+void WaitUntilAsleep(pid_t thread) {
+    const std::string path = "/proc/self/task/" + std::to_string(thread) + "/stat";
+    for (std::string stat; stat.find(") S ") == std::string::npos; stat = ReadFile(path)) { std::this_thread::yield(); }
+}
+
+// Starts a thread whose first message comes while this thread creates the lock.
+void LogFirstInTwoThreads() {
+    std::atomic<pid_t> id = 0;
+    std::atomic<int> locks = 0;
+    std::thread other;
+    hooks::g.before_mutex_init = [&] {
+        ++locks;
+        hooks::g.before_mutex_init = [&] { ++locks; };
+        other = std::thread([&] {
+            id = gettid();
+            Log(4, "a", "early\n");
+            id = -1;
+        });
+        while (id == 0) { std::this_thread::yield(); }
+        if (id > 0) { WaitUntilAsleep(id); }
+    };
+    Log(4, "a", "early\n");
+    other.join();
+    hooks::Reset();
+    Log(locks == 1 ? "one lock" : "two locks");
+}
+
+// In another process, because nothing may have initialized the logger. Initialize with an error keeps the stream.
+TEST(LoggerDeathTest, LinesGoToTheStreamOfTheType) {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     const auto run = [] {
-        g_locks_made = 0;
-        std::thread other([] { Log(4, "a", "early\n"); });
-        Log(4, "a", "early\n");
-        other.join();
-        Log(g_locks_made == 1 ? "one lock" : "two locks");
+        LogFirstInTwoThreads();
         Log(5, "a", "silent\n");
         std::fflush(stdout);
         dup2(STDERR_FILENO, STDOUT_FILENO);
@@ -127,6 +142,7 @@ TEST(LoggerDeathTest, LinesGoToTheStreamOfTheTypeAndToTheFormerOneOnFailure) {
         Logger::Initialize(Logger::TYPE_STDOUT, "ignored/path", "", 2);
         Log(LoggerTestPeer::descriptor() == STDOUT_FILENO ? "stdout" : "other");
         openlog("tag", LOG_PERROR, LOG_USER);
+        setlogmask(LOG_UPTO(LOG_ERR));
         Logger::Initialize(Logger::TYPE_SYSLOG, "", "", 2);
         Log("syslog");
         Logger::Initialize(Logger::TYPE_STDERR, "", "", 2);
@@ -151,50 +167,58 @@ int RotateWithoutDescriptors() {
 }
 
 TEST_F(LoggerTest, WhereLinesGoAfterRotationsFailuresAndReopenings) {
-    // A small letter is a line, and a digit opens the log with that count.
-    const std::map<char, std::function<void()>> steps = {
-        {'B', [&] { fs::create_directory(log_), Log("x"), rmdir(log_.c_str()); }},
-        {'D', [&] { Logger::Destroy(); }},
-        {'F', [&] { EXPECT_EQ(Logger::Rotate(), -1); }},
-        {'L', [&] { LoggerTestPeer::size() += 1048576 - 2 * kLine; }},
-        {'M', [&] { fs::rename(log_, dir_ / "moved"); }},
-        {'N', [&] { EXPECT_EQ(RotateWithoutDescriptors(), 0); }},
-        {'O', [&] { ++LoggerTestPeer::rotations(); }},  // the other writers'
-        {'R', [&] { EXPECT_EQ(Logger::Rotate(), 0); }},
-        {'X', [&] { EXPECT_EQ(Open("") + Open(dir_.path()) + Open(log_ + "s/log"), -3); }}};
-    const struct {
-        const char *steps, *files;
-        int size;  // as counted at the end
-    } kRows[] = {
-        {"9o9aLbcd", "log:d log_0:oabc ", kLine},  // what an earlier run wrote does not count
-        {"9aRbR1cR", "log: log_0:c log_1:a ", 0},
-        {"9aRbRcRdR3eR", "log: log_0:e log_1:d log_3:a ", 0},
-        {"D9aNb", "log:b log_0:a ", kLine},
-        {"9aXb", "log:ab ", -1},
-        {"9aDDb9c", "log:ac ", kLine},
-        {"9MaObc", "log:bc moved:a ", 2 * kLine},
-        {"9aObRMc", "log_0:ab moved:c ", kLine},  // its own rotation needs no reopening
-        {"9aMOBb", "moved:a ", kLine},
-        {"9aMFb", "moved:a ", kLine},
+    using Step = std::function<void()>;
+    const auto open = [&](int rotate_cnt) { return Step([=] { ASSERT_EQ(Open(log_, rotate_cnt), 0); }); };
+    const auto write = [](const char* text) { return Step([=] { Log(text); }); };
+    const Step fail_to_open = [&] {
+        EXPECT_EQ(Open(""), -1);
+        EXPECT_EQ(Open(dir_.path()), -1);
+        EXPECT_EQ(Open(log_ + "s/log"), -1);
     };
-    for (const auto& row : kRows) {
-        SCOPED_TRACE(row.steps);
-        for (const char step : std::string(row.steps)) {
-            if (step >= 'a') {
-                Log(std::string(1, step));
-            } else if (step <= '9') {
-                ASSERT_EQ(Open(log_, step - '0'), 0);
-            } else {
-                steps.at(step)();
-            }
-            EXPECT_NE(fcntl(LoggerTestPeer::descriptor(), F_GETFD) & FD_CLOEXEC, 0) << "inherited";
+    const Step rotate = [] { EXPECT_EQ(Logger::Rotate(), 0); };
+    const Step fail_to_rotate = [] { EXPECT_EQ(Logger::Rotate(), -1); };
+    const Step rotate_without_descriptors = [] { EXPECT_EQ(RotateWithoutDescriptors(), 0); };
+    const Step other_writer_rotates = [] { ++LoggerTestPeer::rotations(); };
+    const Step destroy = [] { Logger::Destroy(); };
+    const Step nearly_fill = [] { LoggerTestPeer::size() += 1048576 - 2 * kLine; };
+    const Step move_away = [&] { fs::rename(log_, dir_ / "moved"); };
+    const Step log_into_a_directory = [&] {
+        fs::create_directory(log_);
+        Log("x");
+        fs::remove(log_);
+    };
+    const auto a = write("a"), b = write("b"), c = write("c"), d = write("d"), e = write("e");
+    const struct {
+        const char* files;
+        int size;  // at the end
+        std::vector<Step> steps;
+    } rows[] = {
+        // Lines of an earlier process do not count.
+        {"log:d log_0:eabc ", kLine, {open(9), e, open(9), a, nearly_fill, b, c, d}},
+        {"log: log_0:c log_1:a ", 0, {open(9), a, rotate, b, rotate, open(1), c, rotate}},
+        {"log: log_0:e log_1:d log_3:a ", 0, {open(9), a, rotate, b, rotate, c, rotate, d, rotate, open(3), e, rotate}},
+        {"log:b log_0:a ", kLine, {destroy, open(9), a, rotate_without_descriptors, b}},
+        {"log:ab ", -1, {open(9), a, fail_to_open, b}},
+        {"log:b log_0:a ", kLine, {open(9), a, fail_to_open, rotate, b}},
+        {"log:ac ", kLine, {open(9), a, destroy, destroy, b, open(9), c}},
+        {"log:bc moved:a ", 2 * kLine, {open(9), move_away, a, other_writer_rotates, b, c}},
+        // Its own rotation needs no reopening.
+        {"log_0:ab moved:c ", kLine, {open(9), a, other_writer_rotates, b, rotate, move_away, c}},
+        {"moved:a ", kLine, {open(9), a, move_away, other_writer_rotates, log_into_a_directory, b}},
+        {"moved:a ", kLine, {open(9), a, move_away, fail_to_rotate, b}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        for (const Step& step : row.steps) {
+            step();
+            EXPECT_EQ(hooks::InheritableDescriptors(), 0);
         }
         EXPECT_EQ(LoggerTestPeer::size(), row.size);
         EXPECT_EQ(TakeFiles(), row.files);
     }
 }
 
-// The longest path that leaves room behind it for the numbers of ten files, and one more byte.
+// The longest path with room for a number after it, and one byte more.
 TEST_F(LoggerTest, APathIsTooLongWhenItsNumbersDoNotFit) {
     for (const std::size_t length : {1021u, 1022u}) {
         const std::string path = dir_ / std::string(length - dir_.path().size() - 4, '/') + "log";

@@ -2,23 +2,18 @@
 #include "tmp_name_gen.h"
 
 #include <gtest/gtest.h>
-#include <sys/time.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <ctime>
 #include <string>
 #include <thread>
 
-// The clock of the one instance's key.
-extern "C" int gettimeofday(struct timeval* now, void*) noexcept {
-    *now = {42, 7};
-    return 0;
-}
+#include "tests/hooks.h"
 
 namespace {
 
 TEST(TmpNameGenTest, NamesComeFromTheClock) {
+    hooks::g.now = 42;  // before the first use
     TmpNameGen& gen = *TmpNameGen::getInstance();
     std::string names;
     for (int i = 0; i < 38; ++i) { names += gen.getTmpName().c_str(); }
@@ -36,6 +31,7 @@ TEST(TmpNameGenTest, NamesComeFromTheClock) {
     }
     for (std::thread& thread : threads) { thread.join(); }
     EXPECT_EQ(gen.getTmpName(), "MERQ23W1") << "a thread disturbed the stream";
+    hooks::Reset();
 }
 
 TEST(TmpNameGenTest, AKeyMakesAStreamAndAnEmptyOneIsFilled) {
@@ -47,8 +43,10 @@ TEST(TmpNameGenTest, AKeyMakesAStreamAndAnEmptyOneIsFilled) {
     gen.rc4_randomize(state, out + 6, 600);
     const unsigned char last[] = {34, 10, 109, 56, 190, 251};
     EXPECT_TRUE(std::equal(last, std::end(last), out + 600));
+    hooks::g.now = 42;
     gen.rc4_init(state, empty);
-    std::srand(static_cast<unsigned>(std::time(nullptr)));  // which the logger's tests have stopped
+    std::srand(42);
+    hooks::Reset();
     EXPECT_TRUE(std::all_of(empty, std::end(empty), [](int byte) { return byte == (std::rand() & 255); }));
 }
 

@@ -1,4 +1,4 @@
-// qpk, run as its users run it.
+// Runs qpk as its users do.
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -18,7 +18,7 @@ struct Result {
     std::string err;
 };
 
-// The rows of a section of the manual page: the tag of a paragraph, and its text.
+// The paragraphs of a section of the manual page: tag and text.
 using Rows = std::vector<std::pair<std::string, std::string>>;
 
 Rows RowsOfManual(const std::string& section) {
@@ -45,7 +45,7 @@ std::set<std::string> TagsOfManual(const std::string& section) {
     return tags;
 }
 
-// What a pattern captures in a text, in all places.
+// All captures of a pattern in a text.
 std::vector<std::string> Captures(const std::string& text, const char* pattern) {
     std::vector<std::string> captures;
     const QRegularExpression expression(pattern, QRegularExpression::MultilineOption);
@@ -59,7 +59,7 @@ class QpkTest : public testing::Test {
   protected:
     QpkTest() { Shell("mkdir -p c/Contents/{MacOS,R} && cp /bin/true c/Contents/MacOS/quillmere-ui"); }
 
-    // Runs a line of the shell in the test's directory; $Q is the tool.
+    // Runs a shell command in the test's directory; $Q is qpk.
     Result Shell(const std::string& line) const {
         QProcess shell;
         shell.setWorkingDirectory(QString::fromStdString(dir_.path()));
@@ -190,7 +190,7 @@ TEST_F(QpkTest, PackagesAreReproducibleAndInstall) {
     EXPECT_TRUE(Contains(Shell("trap '' XFSZ; ulimit -f 10; $Q make d -o 4 --build 7").err,
                          "4: cannot be written: File too large: check"));
     EXPECT_TRUE(Contains(Shell("mkfifo 4; $Q make d -o 4 --build 7").err, "4: is not a regular file"));
-    // Noise is stored as it is, and only the checksum shows that it has changed.
+    // Noise is stored uncompressed, so only the checksum shows the change.
     Shell("printf '\\x55\\xaa\\x55' | dd of=1 bs=1 seek=200000 conv=notrunc");
     EXPECT_EQ(Shell("$Q check 1").exit_code, 1);
 }
@@ -238,7 +238,7 @@ TEST_F(QpkTest, CheckFindsTheFaultsOfOtherPackers) {
     EXPECT_EQ(Shell("$Q check nothing").exit_code, 3);
 }
 
-// The temporary directory goes even where the launcher's own removal would run out of descriptors.
+// Also with a package that is too deep for the launcher.
 TEST_F(QpkTest, CheckLeavesNothingBehind) {
     const std::pair<int, const char*> depths[] = {{1500, "d: has a name longer than 255"},
                                                   {5000, "p: cannot be installed; the launcher would log ["}};
@@ -264,7 +264,7 @@ TEST_F(QpkTest, BundleInstallsItsClient) {
     EXPECT_TRUE(Contains(ReadFile(world.Bundle() + "/Contents/Info.plist"), "<string>7</string>"));
     EXPECT_TRUE(Contains(ReadFile(dir_ / "d"), "\\ Drive.app/Contents/Resources/INFO:"));
     EXPECT_TRUE(Contains(ReadFile(dir_ / "d"), dir_ / "c/Contents/MacOS/quillmere-ui"));
-    EXPECT_EQ(world.Launch().exit_code, 0);
+    EXPECT_EQ(world.Run().exit_code, 0);
     EXPECT_NE(world.WaitForClient(), 0);
     EXPECT_EQ(world.Installed(), "7");
     Shell("mkdir -p P/{themes,wayland-x}; cp -r " QT_PLUGINS

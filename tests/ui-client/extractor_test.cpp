@@ -1,4 +1,4 @@
-// The extractor: what it writes and reports, and archives that are hostile, damaged or changing.
+// The extractor with good, hostile, damaged and changing archives.
 #include "ui-client/launcher/extractor.h"
 
 #include <QObject>
@@ -17,14 +17,14 @@ namespace {
 class ExtractorTest : public ServiceTest {
   protected:
     ExtractorTest() {
-        setlocale(LC_CTYPE, "C.UTF-8");  // names are UTF-8, whatever the environment says
+        setlocale(LC_CTYPE, "C.UTF-8");  // as main sets it
         extractor.m_source = (home / "archive").c_str();
         extractor.m_dest = (home / "dest").c_str();
     }
 
     int ExtractAfresh() {
         fs::create_directory(home / "dest");
-        for (const auto& entry : fs::recursive_directory_iterator(home / "dest")) {  // an ISO's may not be changed
+        for (const auto& entry : fs::recursive_directory_iterator(home / "dest")) {  // those of an ISO are read-only
             if (entry.is_directory()) { fs::permissions(entry, fs::perms::owner_all); }
         }
         fs::remove_all(home / "dest");
@@ -67,11 +67,11 @@ TEST_F(ExtractorTest, WritesReportsAndCounts) {
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "dir/\ndir/run\nno/parents\nreplaced\nlink\n");
 }
 
-// What was written before a failure stays. A package is trusted with where its links lead to.
-TEST_F(ExtractorTest, HostileAndOddPackages) {
+// Files from before a failure stay. A package may have links to any place.
+TEST_F(ExtractorTest, HandlesHostileAndOddPackages) {
     const std::string outside = home / "outside";
     const std::string out = home / "out";
-    const std::string deep(5000, '/');  // empty components, which libarchive would leave out
+    const std::string deep(5000, '/');  // empty components, which libarchive removes
     const std::string half_a_hole = std::string(65536, 'x') + std::string(65536, 0);
     const bool root = getuid() == 0;
     const struct {
@@ -124,7 +124,7 @@ TEST_F(ExtractorTest, HostileAndOddPackages) {
     EXPECT_EQ(ExtractAfresh(), 0);
 }
 
-TEST_F(ExtractorTest, RefusesWhatIsNotThere) {
+TEST_F(ExtractorTest, ReportsMissingFilesAndArguments) {
     const std::tuple<std::string, std::string, int, const char*> cases[] = {
         {"", home / "dest", 1, ": Invalid Argument\n"},
         {home / "archive", "", 1, ": Invalid Argument\n"},
@@ -139,8 +139,8 @@ TEST_F(ExtractorTest, RefusesWhatIsNotThere) {
     }
 }
 
-// A package of the kind that is shipped is taken as a whole or not at all.
-TEST_F(ExtractorTest, Damage) {
+// A package from qpk is extracted completely or not at all.
+TEST_F(ExtractorTest, RejectsDamagedPackages) {
     std::minstd_rand random(1);
     std::string noise(30000, 0);
     std::generate(noise.begin(), noise.end(), [&] { return static_cast<char>(random() >> 8); });
@@ -160,12 +160,12 @@ TEST_F(ExtractorTest, Damage) {
         WriteFile(home / "archive", flipped);
         EXPECT_TRUE(ExtractAfresh() == -1 || Look(home / "dest") == whole) << "flipped at " << at;
     }
-    // Within the second header, where the data around it say nothing.
+    // Within the second header.
     MakeArchive(home / "archive", {{"a", noise}, {"b", "x"}});
     fs::resize_file(home / "archive", 512 + 30208 + 100);
     EXPECT_EQ(ExtractAfresh(), -1);
     EXPECT_EQ(LogLines(": archive_read_next_header failed: 'Truncated tar archive'\n"), 1);
-    // A warning: the locale has no such letter.
+    // A warning: the locale does not have this letter.
     MakeArchive(home / "archive", {{"a", "x"}, {"\xC3\xA9", "y"}});
     setlocale(LC_CTYPE, "C");
     EXPECT_EQ(ExtractAfresh(), -1);
@@ -173,7 +173,7 @@ TEST_F(ExtractorTest, Damage) {
     EXPECT_EQ(LogLines(": archive_read_next_header failed: 'Pathname can't be converted"), 1);
 }
 
-TEST_F(ExtractorTest, PackageThatChangesAfterItWasCounted) {
+TEST_F(ExtractorTest, RejectsAPackageThatChangesAfterCounting) {
     const std::string content(200 << 9, 'x');
     MakeArchive(home / "archive", {{"a", content}, {"b", content}, {"c", content}, {"d", content}});
     const std::string four = ReadFile(home / "archive");
@@ -189,9 +189,9 @@ TEST_F(ExtractorTest, PackageThatChangesAfterItWasCounted) {
     }
 }
 
-// The launcher does not call it. The data come in several blocks.
-TEST_F(ExtractorTest, PoursOneEntry) {
-    MakeArchive(home / "archive", {{home / "poured", std::string(100000, '1')}});
+// Public, but not used by the launcher. The data has several blocks.
+TEST_F(ExtractorTest, CopiesTheDataOfOneEntry) {
+    MakeArchive(home / "archive", {{home / "copied", std::string(100000, '1')}});
     const ArchiveReader reader(archive_read_new());
     const ArchiveWriter writer(archive_write_disk_new());
     EXPECT_EQ(extractor.copy_data(nullptr, writer.get()), -1);
@@ -202,5 +202,5 @@ TEST_F(ExtractorTest, PoursOneEntry) {
     ASSERT_EQ(archive_read_next_header(reader.get(), &entry), ARCHIVE_OK);
     ASSERT_EQ(archive_write_header(writer.get(), entry), ARCHIVE_OK);
     EXPECT_EQ(extractor.copy_data(reader.get(), writer.get()), 0);
-    EXPECT_EQ(ReadFile(home / "poured"), std::string(100000, '1'));
+    EXPECT_EQ(ReadFile(home / "copied"), std::string(100000, '1'));
 }

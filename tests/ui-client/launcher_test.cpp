@@ -1,4 +1,4 @@
-// The window's signals, the string table, the choice of language and the translations.
+// The window's signals, the string table, languages and translations.
 #include "ui-client/launcher/launcher.h"
 
 #include <gtest/gtest.h>
@@ -31,7 +31,7 @@ const Row kRows[] = {
 #include "ui-client/launcher/str-table-rows.inc"
 };
 
-// Turns one text into another, whatever the id.
+// Translates every text to the same text.
 class Replacement : public QTranslator {
   public:
     bool isEmpty() const override { return false; }
@@ -40,8 +40,8 @@ class Replacement : public QTranslator {
     }
 };
 
-// What main sets up.
-class Setting : public testing::Environment {
+// What main sets up before Launcher.
+class Fixture : public testing::Environment {
     void SetUp() override {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         static int argc = 0;
@@ -52,7 +52,7 @@ class Setting : public testing::Environment {
     void TearDown() override { application_.reset(); }
     std::unique_ptr<QApplication> application_;
 };
-const auto* const g_setting = testing::AddGlobalTestEnvironment(new Setting);
+const auto* const g_fixture = testing::AddGlobalTestEnvironment(new Fixture);
 
 }  // namespace
 
@@ -60,7 +60,7 @@ TEST(Window, ShowsTheProgress) {
     Launcher launcher;
     auto* const dialog = qobject_cast<ProcessingProgressDialog*>(QApplication::topLevelWidgets().value(0));
     ASSERT_NE(dialog, nullptr);
-    // The base class shows itself after that time, when nobody has asked for it.
+    // The base class shows itself after that time.
     EXPECT_GT(dialog->minimumDuration(), 24 * 3600 * 1000);
     const int kSteps[][3] = {{3, 1, 33}, {3, 2, 66}, {100000000, 99999999, 99}, {7, 7, 100}};
     for (const auto& [total, steps, value] : kSteps) {
@@ -93,9 +93,7 @@ TEST(Languages, EachLocaleHasItsOwn) {
         {"pt_AO", "ptb"}, {"ru_RU", "rus"}, {"da_DK", "dan"}, {"no_NO", "nor"}, {"nb_NO", "nor"}, {"nn_NO", "nor"},
         {"sv_FI", "sve"}, {"nl_BE", "nld"}, {"pl_PL", "plk"}, {"hu_HU", "hun"}, {"pt_PT", "ptg"}, {"pt", "ptg"},
         {"tr_TR", "trk"}, {"cs_CZ", "csy"}, {"fi_FI", "enu"}, {"C", "enu"},     {"", "enu"},      {"zh", "chs"}};
-    for (const auto& [locale, code] : kCodes) {
-        EXPECT_EQ(OrvaLocale::getLanguageOf(locale), code) << locale;
-    }
+    for (const auto& [locale, code] : kCodes) { EXPECT_EQ(OrvaLocale::getLanguageOf(locale), code) << locale; }
     EXPECT_EQ(OrvaLocale::getDefaultLanguage(), OrvaLocale::getLanguageOf(QLocale::system().name()));
     qCleanupResources_texts();
     EXPECT_EQ(OrvaLocale::getLanguageOf("de_DE"), "enu");

@@ -1,4 +1,4 @@
-// What the tests of the service and of the extractor share.
+// A fixture for the tests of Service and Extractor.
 #pragma once
 
 #include <QCoreApplication>
@@ -8,7 +8,7 @@
 #include "temp_dir.h"
 #include "ui-client/launcher/str-table.h"
 
-// Contents by path: "/" for a directory, an arrow and the name of the target for a link.
+// Contents by path: "/" for a directory, "->" and the target's name for a link.
 using Tree = std::map<std::string, std::string>;
 
 inline Tree Look(const std::string& directory) {
@@ -22,7 +22,7 @@ inline Tree Look(const std::string& directory) {
     return tree;
 }
 
-// A home of the test's own, and a log with everything in it.
+// A temporary home directory, and a log with all levels.
 class ServiceTest : public testing::Test {
   protected:
     ServiceTest() {

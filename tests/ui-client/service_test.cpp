@@ -1,4 +1,4 @@
-// The decision, the client's end, a whole run, what cannot be read or removed, and the recursive copy.
+// The upgrade decision, stopping the client, a whole run, missing permissions, and the recursive copy.
 #include <signal.h>
 
 #include <QElapsedTimer>
@@ -21,7 +21,7 @@ const std::string kInfo = std::string("/") + layout::kInfo;
 
 std::string App() { return Service::GetUserQuillmereAppInstallPath().c_str(); }
 
-// The failures come from here; all else is real.
+// Replaces the extraction; everything else is real.
 class FakeExtraction : public MacService {
   public:
     explicit FakeExtraction(const std::function<int()>& extract) : extract_(extract) {}
@@ -32,7 +32,7 @@ class FakeExtraction : public MacService {
         target_version.build_version = target;
         return IsNeedUpgrade();
     }
-    int stops = 0;  // with the copy still in its place
+    int stops = 0;  // while the copy existed
 
   private:
     std::function<int()> extract_;
@@ -40,7 +40,7 @@ class FakeExtraction : public MacService {
 
 }  // namespace
 
-TEST_F(ServiceTest, DecisionAndStop) {
+TEST_F(ServiceTest, DecidesAndStopsTheClient) {
     const struct {
         const char* source;
         const char* target;
@@ -63,8 +63,8 @@ TEST_F(ServiceTest, DecisionAndStop) {
     EXPECT_EQ(LogLines("user installation is ready, removing backup app\n"), 10);
 }
 
-// A home behind a link, a copy without its executable, a bundle of which nothing can be read.
-TEST_F(ServiceTest, RunByItsLog) {
+// A home that is a symbolic link, a copy without its executable, a bundle without a package.
+TEST_F(ServiceTest, LogsTheStepsOfARun) {
     fs::create_directory(home / "home");
     fs::create_directory_symlink(home / "home", home / "link");
     qputenv("HOME", (home / "link").c_str());
@@ -74,7 +74,7 @@ TEST_F(ServiceTest, RunByItsLog) {
         Worker worker;
         worker.StartThread();
         QMetaObject::invokeMethod(&worker, "HandleServicce", Qt::QueuedConnection);
-    }  // not before the run is over
+    }  // waits for the run
     const std::string log = std::regex_replace(ReadFile(LogPath()), std::regex("\\([0-9]+\\)"), "");
     std::size_t at = 0;
     for (const char* const line :
@@ -91,7 +91,7 @@ TEST_F(ServiceTest, RunByItsLog) {
           "[ERROR] mac/mac-service: Cannot unregister bundle, ",
           "[ERROR] mac/mac-service: Failed to launch Quillmere UI\n", "[DEBUG] launcher: done\n"}) {
         const std::size_t found = log.find(line, at);
-        EXPECT_NE(found, std::string::npos) << line << "is not behind " << log.substr(0, at);
+        EXPECT_NE(found, std::string::npos) << line << "does not follow " << log.substr(0, at);
         at = std::min(found, log.size());
     }
     EXPECT_TRUE(fs::exists(App() + kInfo));
@@ -99,7 +99,7 @@ TEST_F(ServiceTest, RunByItsLog) {
 }
 
 TEST_F(ServiceTest, StopsTheClientAndNotItself) {
-    const auto former = signal(SIGCHLD, SIG_IGN);  // a child that ends is gone
+    const auto former = signal(SIGCHLD, SIG_IGN);  // no zombies
     const pid_t client = fork();
     if (client == 0) {
         pause();
@@ -141,31 +141,31 @@ TEST_F(ServiceTest, CopiesTrees) {
     EXPECT_EQ(copy("none", "x"), -1);
     EXPECT_EQ(copy("from", "to/plain"), -1);
     EXPECT_EQ(service.FSCopyPath("", "x"), -1);
-    EXPECT_EQ(LogLines("FSCopyPath: failed to copy from"), 3);  // one on each level of the way up
+    EXPECT_EQ(LogLines("FSCopyPath: failed to copy from"), 3);  // one for each level
     EXPECT_EQ(LogLines("FSCopyPath: source path '"), 1);
     EXPECT_EQ(LogLines("FSCopyPath: failed to create dest folder"), 1);
     EXPECT_EQ(LogLines("FSCopyPath: failed to stat source ''"), 1);
 }
 
-TEST_F(ServiceTest, NothingStandsBelowAFile) {
+TEST_F(ServiceTest, ReportsAFileInPlaceOfTheUserDirectory) {
     WriteFile(home / ".Quillmere", "");
     EXPECT_EQ(MacService().PrepareUserEnv(), -1);
     EXPECT_EQ(LogLines(": failed to create folder: '"), 1);
     EXPECT_EQ(LogLines("Failed to extract package, and no old installation to rollback\n"), 1);
 }
 
-TEST_F(ServiceTest, WithoutPermission) {
+TEST_F(ServiceTest, KeepsCopiesWithoutPermission) {
     MacService service;
     WriteFile(home / "from/closed/file", "closed");
     WriteFile(home / "from/open", "open");
     fs::permissions(home / "from/closed", fs::perms::none);
     fs::permissions(home.path(), fs::perms::all);
-    // A directory that cannot be opened is left empty, and is no failure.
+    // A directory that cannot be opened stays empty, without a failure.
     InChild(BecomeNobody, [&] { EXPECT_EQ(service.FSCopyPath((home / "from").c_str(), (home / "to").c_str()), 0); });
     EXPECT_EQ(ReadFile(home / "to/open"), "open");
     EXPECT_TRUE(fs::is_empty(home / "to/closed"));
     EXPECT_EQ(LogLines("[WARNING] quillmere-service("), 1);
-    // What cannot be removed in a rollback has no version at least. Most of it stands in the way.
+    // A copy that a rollback cannot remove loses its version at least.
     WriteFile(App() + "/mark", "old");
     fs::permissions(home / ".Quillmere", fs::perms::all);
     FakeExtraction stuck([] {
@@ -178,7 +178,12 @@ TEST_F(ServiceTest, WithoutPermission) {
     EXPECT_EQ(ReadFile(App() + "_tmp/mark"), "old");
     EXPECT_TRUE(fs::exists(App() + "/Contents/Resources"));
     EXPECT_FALSE(fs::exists(App() + kInfo));
-    // Where nothing can be seen, there may be a copy.
+    // A copy may exist where nothing can be read, and it may be complete.
+    WriteFile(App() + "_tmp" + kInfo, "build_version=1");
+    WriteFile(App() + kInfo, "");
+    fs::permissions(App() + kInfo, fs::perms::none);
+    InChild(BecomeNobody, [] { Service::Repair({}); });
+    EXPECT_EQ(ReadFile(App() + "_tmp/mark"), "old");
     fs::permissions(home / ".Quillmere", fs::perms::none);
     InChild(BecomeNobody, [&] { EXPECT_EQ(service.PrepareUserEnv(), -1); });
     EXPECT_EQ(LogLines("failed to backup app from '"), 11);

@@ -1,4 +1,4 @@
-// Assembling of bundles: the launcher together with the client that it installs.
+// Assembles bundles: the launcher with the client that it installs.
 #include "tools/qpk/bundle.h"
 
 #include <QProcess>
@@ -15,8 +15,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// What the launcher loads: the window system, and a stand-in where there is none. It shows no
-// pictures but PNG, takes no text and needs no theme.
+// The plug-ins that the launcher loads: window systems and "offscreen". It needs no image format
+// other than PNG, no input method and no theme.
 #ifdef __APPLE__
 const std::vector<std::string> kNeededPlugins{"platforms/libqcocoa.dylib",
                                               "platforms/libqoffscreen.dylib"};
@@ -32,7 +32,7 @@ void WriteFile(const fs::path& path, const QByteArray& content) {
     }
 }
 
-// A program that runs keeps its file: the new one takes the name only.
+// A running program keeps its file; only the name changes.
 void CopyFile(const fs::path& from, const fs::path& to) {
     const fs::path unfinished = to.string() + ".part";
     fs::remove(unfinished);
@@ -41,7 +41,7 @@ void CopyFile(const fs::path& from, const fs::path& to) {
     fs::rename(unfinished, to);
 }
 
-// ldd(1), where there is one, names each library that the system's loader would not find.
+// ldd(1), if installed, lists each library that the loader would not find.
 void RequireLibraries(const fs::path& plugin) {
     const QString program = QStandardPaths::findExecutable("ldd");
     if (program.isEmpty()) {
@@ -73,8 +73,8 @@ void CopyPlugins(const fs::path& from, const fs::path& to) {
     }
 }
 
-// The window systems' alone: what Qt finds of themes and input methods it also loads, and GTK for a
-// theme takes as long as all the rest of a start.
+// Only plug-ins for window systems. Qt loads every theme it finds, and GTK takes as long as the
+// rest of a start.
 void LinkPlugins(const fs::path& from, const fs::path& to) {
     fs::remove_all(to);
     fs::create_directories(to);
@@ -86,7 +86,7 @@ void LinkPlugins(const fs::path& from, const fs::path& to) {
     }
 }
 
-// Apple's Information Property List, what the desktop there must know of an application.
+// Apple's Information Property List, which describes an application to the desktop.
 QByteArray PropertyList(const VersionInfo& version) {
     const auto text = [](const std::string& value) { return QString::fromStdString(value); };
     const std::vector<std::pair<QString, QString>> values{
@@ -132,7 +132,7 @@ std::string Escaped(const std::string& path) {
 }
 
 // One rule: the version file, which is written last, depends on every file and directory of the
-// client. A file that comes or goes, and a link that changes, is seen by its directory.
+// client. A directory changes when a file is added or removed, or a link changes.
 void WriteDepfile(const BundleOptions& options) {
     const std::string client = fs::absolute(options.package.client).string();
     std::string rule =

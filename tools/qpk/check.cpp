@@ -1,4 +1,4 @@
-// Would a package install, and could it be removed again?
+// Checks that a package can be installed and removed.
 #include "tools/qpk/check.h"
 
 #include <fts.h>
@@ -64,8 +64,8 @@ int Extract(const std::string& package, const std::string& destination) {
     return result;
 }
 
-// Removes a tree of any depth, directories that their owner may not change included. fts(3) reads a
-// directory after it has returned it.
+// Removes a tree of any depth, including directories that their owner may not change. fts(3) reads
+// a directory after returning it.
 void RemoveTree(std::string path) {
     char* const paths[] = {&path[0], nullptr};
     const std::unique_ptr<FTS, FreeBy<fts_close>> walk(fts_open(paths, FTS_PHYSICAL, nullptr));
@@ -98,7 +98,7 @@ class Scratch {
     QTemporaryDir directory_;
 };
 
-// Installs the package as into a user's home, and removes the copy as the next upgrade would.
+// Installs the package and removes the copy, as two upgrades would.
 Findings TryOut(const std::string& package) {
     const Scratch scratch;
     const LogLines log(scratch.Path("log"));
@@ -157,7 +157,7 @@ Findings CheckPackage(const std::string& package, const std::string& bundle) {
     if (!facts.has_checksum) {
         findings.emplace_back(package, Message::kNoChecksum);
     }
-    // The extractor follows such links, out of a temporary directory too.
+    // The extractor would follow such links out of the temporary directory.
     if (LinksLeave(entries)) {
         findings.emplace_back(package, Message::kNotTried);
     } else {

@@ -1,4 +1,4 @@
-// Would a package install, and could it be removed again?
+// Checks that a package can be installed and removed.
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 #include "tools/qpk/entry.h"
 #include "tools/qpk/message.h"
 
-// Looks at the package's entries, and installs and removes it below a temporary directory with the
-// launcher's own code. `bundle` is the bundle that will carry the package, "" for none. Result: all
-// that is wrong; empty for a package that does what it should. Throws as ReadPackage does.
+// Checks the package's entries, then installs and removes it in a temporary directory with the
+// launcher's own code. `bundle` is the bundle of the package, "" for none. Result: all faults;
+// empty for a good package. Throws as ReadPackage does.
 Findings CheckPackage(const std::string& package, const std::string& bundle);

@@ -61,7 +61,7 @@ class TreeReader {
         return entry;
     }
 
-    // A second name within the client. One outside of it makes no difference to a package.
+    // A second name within the client. Names outside the client do not matter to a package.
     void NameHardLinks() {
         std::map<Identity, std::string> first_names;
         for (Entry& entry : entries_) {

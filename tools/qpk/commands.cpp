@@ -1,4 +1,4 @@
-// The tool's commands: their options, and what they print.
+// The commands: their options and their output.
 #include "tools/qpk/commands.h"
 
 #include <QCommandLineParser>
@@ -45,7 +45,7 @@ class Parser {
         return *this;
     }
 
-    // Result: false when the help was asked for, and shown.
+    // Result: false if the help was requested and shown.
     bool Parse(const QStringList& arguments) {
         if (!parser_.parse(arguments)) {
             throw Error(arguments.constFirst().toStdString(), Message::kBadArguments,
@@ -67,7 +67,7 @@ class Parser {
     bool IsSet(const QString& name) const { return parser_.isSet(name); }
     std::string Value(const QString& name) const { return parser_.value(name).toStdString(); }
 
-    // The operand, "" without one.
+    // The operand, or "".
     std::string Operand() const { return parser_.positionalArguments().value(0).toStdString(); }
 
     std::string RequiredOperand() const { return Required(Operand(), operand_.toStdString()); }
@@ -218,7 +218,7 @@ void RefuseDamage(const std::string& file, const PackageFacts& facts) {
     }
 }
 
-// Like ls(1); the target of a link is in parentheses.
+// As ls(1) prints it; the target of a link is in parentheses.
 std::string Details(const Entry& entry) {
     const char type = !entry.hard_link.empty() ? 'h'
                       : S_ISDIR(entry.mode)    ? 'd'

@@ -1,4 +1,4 @@
-// The tool's commands: their options, and what they print.
+// The commands: their options and their output.
 #pragma once
 
 #include <QStringList>
@@ -7,7 +7,7 @@
 struct Command {
     const char* name;
     const char* summary;
-    // Runs the command; `arguments` are the command's own after its name.
+    // Runs the command; `arguments` are those after its name.
     // Throws Error.
     void (*run)(const QStringList& arguments);
 };

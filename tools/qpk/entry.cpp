@@ -1,4 +1,4 @@
-// One object of a client, read from its directory or from a package.
+// A file, directory or link of a client, from its directory or a package.
 #include "tools/qpk/entry.h"
 
 #include <cstdio>

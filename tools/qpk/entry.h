@@ -1,4 +1,4 @@
-// One object of a client, read from its directory or from a package.
+// A file, directory or link of a client, from its directory or a package.
 #pragma once
 
 #include <sys/stat.h>
@@ -8,16 +8,16 @@
 #include <vector>
 
 struct Entry {
-    // Relative to the root of the private copy, without "." and empty components: "" is the root
-    // itself. What is wrong in it (a leading "/", "..") is kept.
+    // Relative to the root of the per-user copy, without "." and empty components; "" is the root.
+    // A leading "/" and ".." stay, for the rules.
     std::string path;
     mode_t mode = 0;             // type and permission bits, as in struct stat
     std::int64_t size = 0;       // bytes, of a regular file
     std::string link_text;       // of a symbolic link
-    std::string hard_link = {};  // the entry that this is another name of, else ""
+    std::string hard_link = {};  // the path that this is another name of, or ""
 };
 
 using Entries = std::vector<Entry>;
 
-// The name with its control characters made visible, for a terminal.
+// Returns the name with escaped control characters, for a terminal.
 std::string Visible(const std::string& name);

@@ -1,11 +1,11 @@
-// Symbolic links among the entries of a client, followed without a file system.
+// Resolves symbolic links among the entries of a client, without a file system.
 #include "tools/qpk/links.h"
 
 namespace {
 
 constexpr int kMostLinks = 40;  // the kernel's own limit
 
-// Takes the first component off `path`, and the slashes behind it.
+// Removes the first component of `path` and the slashes after it.
 std::string TakeFirst(std::string& path) {
     const std::size_t slash = path.find('/');
     std::string first = path.substr(0, slash);
@@ -39,7 +39,7 @@ Links::Target Links::Follow(const Entry& link) const {
     return Follow(Parent(link.path), link.link_text);
 }
 
-// `done` has no links left in it, and what they lead to is inside.
+// `done` is inside the client and has no more links.
 Links::Target Links::Follow(std::string done, std::string rest) const {
     for (int links = 0; !rest.empty();) {
         if (rest[0] == '/') {

@@ -1,4 +1,4 @@
-// Symbolic links among the entries of a client, followed without a file system.
+// Resolves symbolic links among the entries of a client, without a file system.
 #pragma once
 
 #include <map>
@@ -9,8 +9,8 @@
 class Links {
   public:
     enum Outcome {
-        kInside,  // leads to a place in the client, whether or not something is there
-        kLeaves,  // is absolute or climbs out of it
+        kInside,  // the target is in the client, whether or not it exists
+        kLeaves,  // the target is absolute or outside the client
         kCircle,
     };
 
@@ -22,12 +22,12 @@ class Links {
     // Keeps pointers to the entries.
     explicit Links(const Entries& entries);
 
-    // The place that a path leads to in the end, every link in it followed (path_resolution(7)).
+    // Resolves every link in a path (path_resolution(7)).
     Target Follow(const std::string& path) const { return Follow("", path); }
-    // The same for the text of a link, from where the link stands.
+    // The same for the text of a link, relative to the link's directory.
     Target Follow(const Entry& link) const;
 
-    // The entry of this very path; null if there is none.
+    // The entry with exactly this path, or null.
     const Entry* Find(const std::string& path) const;
 
   private:

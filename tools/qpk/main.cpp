@@ -63,7 +63,7 @@ int Report(const Error& error) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // Names of files are UTF-8 whatever the locale, for Qt and for libarchive.
+    // File names are UTF-8 in any locale, for Qt and for libarchive.
     setenv("LC_ALL", "C.UTF-8", 1);
     const QCoreApplication application(argc, argv);
     std::setlocale(LC_ALL, "C.UTF-8");

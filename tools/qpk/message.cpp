@@ -1,4 +1,4 @@
-// What the tool says when something is wrong, and how its operations fail.
+// Messages, and the exception that carries them.
 #include "tools/qpk/message.h"
 
 #include "tools/qpk/entry.h"

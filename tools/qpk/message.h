@@ -1,4 +1,4 @@
-// What the tool says when something is wrong, and how its operations fail.
+// Messages, and the exception that carries them.
 #pragma once
 
 #include <exception>
@@ -13,7 +13,7 @@ enum class Message {
 #undef QPK_MESSAGE
 };
 
-// One fault.
+// A fault.
 class Finding {
   public:
     // `subject` is a file, an entry of a client or package, an option or a command. `values`
@@ -23,7 +23,7 @@ class Finding {
 
     int exit_code() const { return exit_code_; }
 
-    // "SUBJECT: what is wrong: what to do", with control characters made visible.
+    // "SUBJECT: what is wrong: what to do", with escaped control characters.
     const std::string& text() const { return text_; }
 
   private:
@@ -33,7 +33,7 @@ class Finding {
 
 using Findings = std::vector<Finding>;
 
-// The failure of an operation, by one fault or more.
+// An operation failed because of at least one fault.
 class Error : public std::exception {
   public:
     // `findings` must not be empty.

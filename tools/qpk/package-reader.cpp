@@ -1,4 +1,4 @@
-// Reading of packages, by whatever tool they were made.
+// Reads packages, made by any tool.
 #include "tools/qpk/package-reader.h"
 
 #include <QByteArray>
@@ -22,7 +22,7 @@ const char* OrEmpty(const char* text) {
     return text == nullptr ? "" : text;
 }
 
-// Without "." and empty components, but with a leading "/".
+// Removes "." and empty components, except a leading "/".
 std::string Normalised(const std::string& path) {
     std::string result = path.rfind('/', 0) == 0 ? "/" : "";
     for (std::size_t begin = 0; begin < path.size();) {
@@ -46,9 +46,9 @@ Entry Describe(archive_entry* header) {
     return entry;
 }
 
-// Whether the outermost format, whose first bytes are given, has a checksum over the content. The
-// flags are where RFC 8878 (zstd), the .xz and the LZ4 frame formats have them; gzip, bzip2, lzip,
-// zip and 7-Zip always have one, and a plain tar has one of its headers only.
+// Whether the outermost format has a checksum of its content. The flags are where RFC 8878 (zstd)
+// and the .xz and LZ4 frame formats have them. gzip, bzip2, lzip, zip and 7-Zip always have one; a
+// plain tar has one for its headers only.
 bool HasChecksum(const QByteArray& head) {
     const auto bits = [&head](int at) { return at < head.size() ? head.at(at) : 0; };
     if (head.startsWith("\x28\xB5\x2F\xFD")) {
@@ -119,7 +119,7 @@ class PackageReader {
         return IsRead(archive_read_next_header(reader_.get(), header));
     }
 
-    // Skips the entry's data, but keeps the beginning of INFO.
+    // Skips the data, except the beginning of INFO.
     bool Skip() {
         if (!facts_.info_is_last) {
             return IsRead(archive_read_data_skip(reader_.get()));
@@ -131,7 +131,7 @@ class PackageReader {
         return IsRead(size < 0 ? static_cast<int>(size) : ARCHIVE_OK);
     }
 
-    // To the launcher a warning is a failure too.
+    // The launcher treats a warning as a failure.
     bool IsRead(int result) {
         if (result != ARCHIVE_OK && result != ARCHIVE_EOF) {
             facts_.damage = ErrorText(reader_.get());
@@ -141,7 +141,7 @@ class PackageReader {
 
     void Name() {
         facts_.format = OrEmpty(archive_format_name(reader_.get()));
-        // The last one is libarchive's own, of no filter at all.
+        // The last one is libarchive's "none".
         for (int i = archive_filter_count(reader_.get()) - 2; i >= 0; --i) {
             facts_.filters.insert(facts_.filters.begin(),
                                   OrEmpty(archive_filter_name(reader_.get(), i)));

@@ -1,4 +1,4 @@
-// Writing of packages.
+// Writes packages.
 #include "tools/qpk/package-writer.h"
 
 #include <QFile>
@@ -20,7 +20,7 @@
 
 namespace {
 
-// libarchive makes the tar and ZstdFile the rest.
+// libarchive writes the tar, and ZstdFile compresses it.
 class PackageWriter {
   public:
     PackageWriter(const PackageOptions& options, std::int64_t total)
@@ -73,7 +73,7 @@ class PackageWriter {
   private:
     static constexpr qint64 kBufferSize = 1 << 17;
 
-    // Exceptions must not pass through libarchive, so Fail throws them again.
+    // Exceptions must not pass through libarchive. Fail throws them again.
     static la_ssize_t Write(archive* writer, void* self, const void* data, std::size_t size) {
         const auto package = static_cast<PackageWriter*>(self);
         try {
@@ -117,7 +117,7 @@ class PackageWriter {
         if (written < 0) {
             Fail();
         }
-        if (written != size) {  // more than the header says
+        if (written != size) {  // the file has grown
             throw Error(path, Message::kChanged);
         }
         progress_.Advance(size);

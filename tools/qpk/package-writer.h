@@ -1,4 +1,4 @@
-// Writing of packages.
+// Writes packages.
 #pragma once
 
 #include <cstdint>
@@ -8,20 +8,19 @@
 #include "tools/qpk/version-info.h"
 
 struct PackageOptions {
-    std::string client;   // the directory that will be the private copy
-    std::string package;  // the file to be written
-    // INFO of the package, in place of one that the client's directory has; that one if not set.
+    std::string client;   // the directory that becomes the per-user copy
+    std::string package;  // the file to write
+    // The content of INFO; if not set, that of the client's directory.
     std::optional<VersionInfo> version;
     int level = 9;          // of zstd
     std::int64_t time = 0;  // of all entries, 0 to LatestTime()
 };
 
-// The highest time that an entry can have on this system, in seconds since the epoch.
+// The latest time that an entry can have on this system, in seconds since the epoch.
 std::int64_t LatestTime();
 
-// Packs a client into a pax tar compressed by zstd. The entries are in path order, but INFO is the
-// last: a copy that was cut short has no version and is replaced at the next start.
-// The same input gives the same bytes. Result: the content of INFO. Throws Error, with all
-// faults of the client before anything is written; the file appears under its name when it is
-// whole.
+// Packs a client into a pax tar compressed by zstd. The entries are in path order, except that INFO
+// is last: an incomplete copy has no version, and the next start replaces it. The same input gives
+// the same bytes. The file is replaced atomically. Result: the content of INFO. Throws Error, with
+// all faults of the client before anything is written.
 std::string WritePackage(const PackageOptions& options);

@@ -4,12 +4,12 @@
 #include <cstdint>
 #include <string>
 
-// Writes to standard error if that is a terminal, and nothing at all if it is not.
+// Writes to standard error, if that is a terminal.
 class Progress {
   public:
-    // `total` is what Advance will have come to in the end, in bytes.
+    // `total` is the sum of all calls to Advance, in bytes.
     Progress(const std::string& what, std::int64_t total);
-    // Takes the bar away.
+    // Clears the bar.
     ~Progress();
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;

@@ -1,4 +1,4 @@
-// Reading of files.
+// Reads files.
 #include "tools/qpk/read-file.h"
 
 #include <QFile>

@@ -1,4 +1,4 @@
-// What the launcher could not install, or could not remove again.
+// Rules for clients that the launcher can install and remove.
 #include "tools/qpk/rules.h"
 
 #include <unicode/normalizer2.h>
@@ -105,9 +105,8 @@ class Rules {
         }
     }
 
-    // Each directory is a set of names without case and in one normal form, as other file systems
-    // see them: Unicode Standard, D145 canonical caseless match. Parents that have no entry of
-    // their own count as well.
+    // The names in each directory, folded as other file systems compare them: Unicode Standard,
+    // D145 canonical caseless match. Includes parents without an entry.
     void Collision(const std::string& path) {
         if (!entries_seen_.insert(path).second) {
             Add(path, Message::kTwice);

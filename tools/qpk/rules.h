@@ -1,9 +1,9 @@
-// What the launcher could not install, or could not remove again.
+// Rules for clients that the launcher can install and remove.
 #pragma once
 
 #include "tools/qpk/entry.h"
 #include "tools/qpk/message.h"
 
-// Looks at all entries of a client. Result: its faults, in the order of the entries; empty for a
-// client that installs anywhere and can be replaced.
+// Checks all entries of a client. Result: its faults, in the order of the entries; empty for a
+// client that can be installed and removed.
 Findings FaultsOf(const Entries& entries);

@@ -7,8 +7,8 @@
 
 #include "tools/qpk/message.h"
 
-// The four texts of the group Version. The build number decides what is newer; the launcher only
-// logs the others.
+// The four fields of the group Version. The launcher compares build numbers and only logs the other
+// fields.
 struct VersionInfo {
     std::string major_version;
     std::string minor_version;
@@ -16,22 +16,21 @@ struct VersionInfo {
     std::string icon_overlay_version;
 };
 
-constexpr std::int64_t kHighestBuild = 2147483647;  // the launcher compares numbers of 32 bits
+constexpr std::int64_t kHighestBuild = 2147483647;  // the launcher compares 32-bit numbers
 
-// The file's content. All four must be plain, as IsPlain says.
+// Returns the file's content. Precondition: IsPlain holds for all four fields.
 std::string ToText(const VersionInfo& version);
 
-// Reads a file's content as the launcher does, by QSettings. What is missing is empty. Throws Error
-// if no temporary file can be written.
+// Parses a file's content with QSettings, as the launcher does. Missing fields are empty. Throws
+// Error if no temporary file can be written.
 VersionInfo ParseVersion(const std::string& text);
 
-// Whether there are only letters, digits and ".+-_".
+// Whether `text` has only letters, digits and ".+-_".
 bool IsPlain(const std::string& value);
 
-// The number if the text is decimal digits alone, without a sign or a tail, and in the range.
-// Throws nothing.
+// Returns the number if `text` has only decimal digits and is in the range. Does not throw.
 std::optional<std::int64_t> ParseNumber(const std::string& text, std::int64_t lowest,
                                         std::int64_t highest);
 
-// The fault of INFO's build number, if it has one.
+// Returns the fault of INFO's build number, if any.
 Findings FaultsOf(const VersionInfo& version);

@@ -11,7 +11,7 @@ ZstdFile::ZstdFile(const std::string& path, int level)
     : file_(QString::fromStdString(path)),
       context_(ZSTD_createCCtx()),
       buffer_(ZSTD_CStreamOutSize()) {
-    // A device would be replaced.
+    // A device must not be replaced.
     const QFileInfo former(file_.fileName());
     if (former.exists() && !former.isFile()) {
         throw Error(path, Message::kNotRegular);
@@ -22,8 +22,8 @@ ZstdFile::ZstdFile(const std::string& path, int level)
     ZSTD_CCtx_setParameter(context_.get(), ZSTD_c_compressionLevel, level);
     ZSTD_CCtx_setParameter(context_.get(), ZSTD_c_checksumFlag, 1);
     ZSTD_CCtx_setParameter(context_.get(), ZSTD_c_windowLog, kWindowLog);
-    // From one worker on their number makes no difference to the bytes. A library without threads
-    // refuses the parameter and works in this one.
+    // The bytes are the same for any number of workers, at least one. A library without threads
+    // refuses the parameter and uses this thread.
     ZSTD_CCtx_setParameter(context_.get(), ZSTD_c_nbWorkers,
                            std::max(1, QThread::idealThreadCount()));
 }
@@ -48,7 +48,7 @@ void ZstdFile::Compress(const void* data, std::size_t size, ZSTD_EndDirective di
     }
 }
 
-// On a disk that becomes full the first write does less than it should, and the next one says why.
+// On a full disk the first write is short, and the next one returns the reason.
 void ZstdFile::WriteOut(qint64 size) {
     for (qint64 at = 0, written = 0; at < size; at += written) {
         written = file_.write(buffer_.data() + at, size - at);

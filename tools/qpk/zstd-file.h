@@ -11,10 +11,10 @@
 
 #include "free-by.h"
 
-// Writes one zstd frame with a checksum of its content, which libarchive's own filter does not
-// write: damage in data that do not shrink would go unseen. The file appears under its name with
-// Commit, whole; until then a former one stays; what is no regular file is refused. The bytes are
-// the same for any number of processors. All operations throw Error.
+// Writes one zstd frame with a checksum of its content. libarchive's own filter writes none, so
+// damage in incompressible data would go undetected. Commit replaces the file atomically. Refuses
+// to replace anything but a regular file. The bytes are the same for any number of processors. All
+// operations throw Error.
 class ZstdFile {
   public:
     ZstdFile(const std::string& path, int level);
@@ -26,8 +26,8 @@ class ZstdFile {
     static constexpr int kSmallest = 19;
 
   private:
-    // What the launcher holds in memory to unpack is this window, 2 MiB. One of 4 MiB, level 9's
-    // own, would make a package of 300 MB smaller by 1 %.
+    // The launcher needs a window of this size in memory, 2 MiB. The default of level 9, 4 MiB,
+    // would make a package of 300 MB 1 % smaller.
     static constexpr int kWindowLog = 21;
 
     void Compress(const void* data, std::size_t size, ZSTD_EndDirective directive);

@@ -13,8 +13,8 @@ using ArchiveReader = std::unique_ptr<archive, FreeBy<archive_read_free>>;
 using ArchiveWriter = std::unique_ptr<archive, FreeBy<archive_write_free>>;
 using ArchiveEntry = std::unique_ptr<archive_entry, FreeBy<archive_entry_free>>;
 
-// Opens a file that is read in blocks of `block` bytes, in any format and with any filter. Result:
-// the reader, and in `opened` what archive_read_open_filename returned; null if memory runs out.
+// Opens a file in any format and with any filter; reads blocks of `block` bytes. Result: the
+// reader, or null without memory. `opened` is the result of archive_read_open_filename.
 inline ArchiveReader OpenArchive(const char* path, std::size_t block, int& opened) {
     ArchiveReader reader(archive_read_new());
     if (reader) {
@@ -25,7 +25,7 @@ inline ArchiveReader OpenArchive(const char* path, std::size_t block, int& opene
     return reader;
 }
 
-// Why the last call on `handle` failed, where libarchive knows. The text is the handle's.
+// Why the last call on `handle` failed, if libarchive knows. The handle owns the text.
 inline const char* ErrorText(archive* handle) {
     const char* const text = archive_error_string(handle);
     return text == nullptr ? "unknown error" : text;

@@ -1,4 +1,4 @@
-// The layer over libarchive that unpacks the package.
+// Extracts a package with libarchive.
 #include "ui-client/launcher/extractor.h"
 
 #include <cerrno>
@@ -17,21 +17,21 @@
 namespace {
 
 constexpr std::size_t kBlockSize = 10240;
-constexpr std::size_t kLongestPath = PATH_MAX - 8;  // a backup's name is some bytes longer
+constexpr std::size_t kLongestPath =
+    PATH_MAX - 8;  // the name of a backup is longer than that of the copy
 const ustring kLogComponent("extractor_debug");
 
-// What is written is new and lies under the user's own directory. So an existing file is replaced
-// and not written through (UNLINK), a path may not climb (NODOTDOT), and Mac OS X metadata go with
-// the files; owner, exact mode and times of the machine that made the package mean nothing here.
+// UNLINK replaces an existing file instead of writing into it, and NODOTDOT refuses "..". Owner,
+// exact mode and times of the packager's machine do not matter here.
 constexpr int kWriteOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 
-// A failed extraction is told by the side that failed: damaged data are known to the reader alone.
+// Logs the error of the side that failed. Only the reader detects damaged data.
 const char* ErrorText(archive* writer, archive* reader) {
     return archive_error_string(writer) == nullptr ? ErrorText(reader) : ErrorText(writer);
 }
 
-// Opens the archive for a look through its headers. Null on failure, which is logged.
+// Opens the archive. Null on failure, which is logged.
 ArchiveReader OpenToLook(const ustring& path) {
     int opened = ARCHIVE_FATAL;
     ArchiveReader reader = OpenArchive(path.c_str(), kBlockSize, opened);
@@ -47,20 +47,19 @@ ArchiveReader OpenToLook(const ustring& path) {
     return reader;
 }
 
-// The next entry; null at the end of what can be read, be it damage or the archive's own.
+// Returns the next entry; null at the end or at the first damage.
 archive_entry* NextEntry(archive* reader) {
     archive_entry* entry = nullptr;
     return archive_read_next_header(reader, &entry) == ARCHIVE_OK ? entry : nullptr;
 }
 
-// A copy must be removable again, and the file layer does not take every name that libarchive
-// takes.
+// The file layer must be able to remove the copy, and refuses some names that libarchive accepts.
 bool CanBeRemoved(const ustring& path) {
     return ustring::is_valid(path) && path.length() < kLongestPath;
 }
 
-// The result of archive_read_next_header. A package that was replaced or rewritten since it was
-// counted fails here: nothing else would tell that entries are missing.
+// Calls archive_read_next_header. Also fails if the number of entries has changed since Count(),
+// because the package was replaced.
 int NextCounted(archive* reader, int number, int total, archive_entry** entry) {
     const int header = archive_read_next_header(reader, entry);
     const bool beyond = number > total;
@@ -91,7 +90,7 @@ int Extractor::Extract() {
         Logger::LogMsg(LOG_LINE(ERROR, "Failed to calculate total file numbers, ret: %d\n"), total);
         return -1;
     }
-    // The reader must be freed before the writer.
+    // The reader is destroyed before the writer.
     const ArchiveWriter writer(archive_write_disk_new());
     int opened = ARCHIVE_FATAL;
     const ArchiveReader reader = OpenArchive(m_source.c_str(), kBlockSize, opened);
@@ -133,8 +132,7 @@ int Extractor::ExtractEntries(int total, archive* reader, archive* writer) {
             return -1;
         }
         Notify_Adapter::GetInstance()->UpdateProgress(total, number);
-        // The last entry has the version, which makes a copy count as current. So it comes when all
-        // else is on the disk, and nobody hears of success before it is there itself.
+        // The last entry has the version, so everything else must be on the disk before it.
         const bool flush = number >= total - 1;
         if (archive_write_finish_entry(writer) != ARCHIVE_OK || (flush && !Flush(writer))) {
             Logger::LogMsg(LOG_LINE(ERROR, "archive_write_finish_entry failed: '%s'\n"),

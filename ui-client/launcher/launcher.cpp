@@ -1,4 +1,4 @@
-// The run of the program.
+// The run: main thread and worker thread.
 #include "ui-client/launcher/launcher.h"
 
 #include <QCoreApplication>
@@ -71,8 +71,7 @@ void Worker::FinishRun() {
     if (m_thread == nullptr || !m_thread->isRunning()) {
         return;
     }
-    // An event loop that is told to quit leaves a start that waits in its queue alone. So it is
-    // told by what waits behind the start.
+    // QThread::quit() would skip a start that is still in the queue, so quit after it.
     QObject* const last = new QObject;
     last->moveToThread(m_thread);
     connect(last, SIGNAL(destroyed()), m_thread, SLOT(quit()), Qt::DirectConnection);
@@ -136,7 +135,7 @@ bool Launcher::HasThread() const {
 void Launcher::Start() {
     emit sigStart();
     if (!HasThread()) {
-        // The run is over by now, and the event loop that it quits has not begun.
+        // The run is over before the event loop begins.
         QMetaObject::invokeMethod(QCoreApplication::instance(), "quit", Qt::QueuedConnection);
     }
 }
@@ -150,7 +149,7 @@ void Launcher::LaunchDone() {
 }
 
 void Launcher::UpdateProgress(int total, int steps) {
-    // Wider than the arguments: the product of a large package's numbers is no int.
+    // The product may not fit into an int.
     m_dialog->setValue(static_cast<int>(qint64{steps} * 100 / total));
 }
 

@@ -1,4 +1,4 @@
-// The run of the program: one object on each of its two threads.
+// The run: one object on each of two threads.
 #pragma once
 
 #include <QObject>
@@ -8,7 +8,7 @@
 class ProcessingProgressDialog;
 class Service;
 
-// The worker's thread: an event loop until it is told to quit. The destructor tells it, and waits.
+// The worker's thread, which runs an event loop. The destructor quits it and waits.
 class HandlerThread : public QThread {
     Q_OBJECT
 
@@ -20,8 +20,8 @@ class HandlerThread : public QThread {
     void run() override;
 };
 
-// Drives the upgrade service from start to finish in one slot, on a thread of its own. Made,
-// controlled and deleted on the main thread; the destructor waits for the run that was started.
+// Runs the upgrade service in one slot, on its own thread. Created, called and deleted on the main
+// thread. The destructor waits for the run.
 class Worker : public QObject {
     Q_OBJECT
 
@@ -29,15 +29,14 @@ class Worker : public QObject {
     Worker();
     ~Worker() override;
 
-    // Where the system gives no thread, the worker works on the main thread.
+    // If no thread can be created, the worker stays on the main thread.
     void StartThread();
     bool HasThread() const;
-    // Tells the thread's event loop to end.
+    // Quits the thread's event loop.
     void QuitThread();
-    // Waits, without a time limit, until the thread has ended.
+    // Waits for the end of the thread, without a limit.
     void JoinThread();
-    // Waits until the run that was started is over, even one that has not begun, and ends the
-    // thread.
+    // Waits for the end of a started run, even if it has not begun, and ends the thread.
     void FinishRun();
 
   signals:
@@ -47,7 +46,7 @@ class Worker : public QObject {
     void sigSetLabelText(const QString& text);
 
   private slots:
-    // The whole run; the client is opened on every path through it. Worker thread.
+    // The whole run. Opens the client in every case. Worker thread.
     void HandleServicce();
 
   private:
@@ -55,8 +54,7 @@ class Worker : public QObject {
     Service* m_service;
 };
 
-// Owns the worker and the window and connects them. Main thread. The destructor waits for the run
-// that was started.
+// Owns and connects the worker and the window. Main thread. The destructor waits for the run.
 class Launcher : public QObject {
     Q_OBJECT
 
@@ -66,9 +64,9 @@ class Launcher : public QObject {
 
     // Starts the worker thread.
     void Run();
-    // Whether there is one; Start() does the whole run on this thread otherwise.
+    // Whether there is a worker thread. Without it, Start() does the whole run.
     bool HasThread() const;
-    // Sets the worker to work. It ends with QCoreApplication::quit().
+    // Starts the run, which ends with QCoreApplication::quit().
     void Start();
 
   signals:

@@ -1,4 +1,4 @@
-// Start and end of the process.
+// The program.
 #include <QApplication>
 #include <QDir>
 #include <QEventLoop>
@@ -39,13 +39,13 @@ namespace {
 constexpr int kRotations = 50;
 const ustring kLogComponent("launcher_debug");
 
-// What sets an attempt apart, by its StartMode.
+// What is special about an attempt, by its StartMode.
 constexpr const char* kDifferences[] = {
     "leaves out nothing", "leaves out the session's bus and manager", "has no display",
     "has no display and puts the old copy back if the new one is incomplete",
-    "puts the old copy back if the new one is incomplete and opens the client without an upgrade"};
+    "puts the old copy back if the new one is incomplete, and does not try an upgrade"};
 
-// The bundle's plug-ins replace Qt's own search. Result: the path that was set.
+// Makes Qt load plug-ins from the bundle only. Result: their directory.
 QString SetLibraryPath(const char* program) {
     QString path = QDir::cleanPath(QString::fromUtf8(program) + "/../../Frameworks/plugins");
     QCoreApplication::setLibraryPaths(QStringList(path));
@@ -54,7 +54,7 @@ QString SetLibraryPath(const char* program) {
     return path;
 }
 
-// One level file for the bundle and all who run it, one log for each user.
+// The level file belongs to the bundle, the log to the user.
 void SetUpLog() {
     const ustring user_directory = Service::GetUserQuillmereInstallPath() + "/";
     if (QDir(QString()).mkpath(ToQString(user_directory + layout::kLogDirectory))) {
@@ -70,29 +70,29 @@ void SetUpLanguage(QTranslator& translator, const QString& resource) {
     }
 }
 
-// Neither a window that is closed nor the end of the session ends the run. A session manager waits
-// for its clients one by one, and Launcher's last quit() ends all event loops.
+// Neither closing the window nor the end of the session ends the run. The event loop keeps a
+// session manager waiting; Launcher's quit() ends all event loops.
 void StayUntilTheRunIsOver(const QApplication& application) {
     QApplication::setQuitOnLastWindowClosed(false);
     DisableFallbackSessionManagement<QApplication>();
     QObject::connect(&application, &QApplication::commitDataRequest, [] { QEventLoop().exec(); });
 }
 
-// The window's ground is always light, so its text must be dark in a dark session too.
+// The window's background is always light, so its text must be dark, also in a dark session.
 void UseLightColours() {
     const std::unique_ptr<QStyle> fusion(QStyleFactory::create("Fusion"));
     QApplication::setPalette(fusion->standardPalette());
 }
 
-// The window's font is known to Qt before the window is: looking for the session's font first, to
-// no use, takes as long as all the rest of the window but for the list of fonts.
+// Without this, Qt first looks for the session's font, which takes as long as the rest of the
+// window.
 void UseFontOfWindow() {
     QFont font = QApplication::font();
     font.setFamily(kWindowFontFamily);
     QApplication::setFont(font);
 }
 
-// One line for each attempt after the first.
+// Logs how the previous attempt ended, if there was one.
 void LogCause(const Attempt& attempt) {
     if (!attempt.cause.empty()) {
         Logger::LogMsg(LOG_LINE(WARNING, "the previous attempt %s; this one %s\n"),
@@ -104,13 +104,13 @@ std::string Program() {
     return QCoreApplication::applicationFilePath().toStdString();
 }
 
-// The lock on the user's directory, which all bundles share.
+// All bundles share the lock on the user's directory.
 std::string InstallLockPath() {
     return (Service::GetUserQuillmereInstallPath() + "/" + layout::kLock).c_str();
 }
 
-// Takes the lock if it is free. It also finds the instance of this bundle that could not have the
-// application object's lock.
+// Takes the lock if it is free. Also detects an instance of this bundle that could not take the
+// lock of the application object.
 bool IsHeldByThisBundle(FileLock& lock) {
     return lock.Take() == FileLock::Result::kHeld && lock.HoldersNote() == Program();
 }
@@ -127,8 +127,8 @@ int EndAsSecondInstance() {
     return EXIT_SUCCESS;
 }
 
-// The run, from the first string to the client. Result: that of the event loop.
-int Run(StartMode mode, FileLock& lock) {
+// The run. Result: that of the event loop.
+int Run(const Attempt& attempt, FileLock& lock) {
     QTranslator translator(nullptr);
     const QString resource = ":/" + OrvaLocale::getDefaultLanguage() + ".qm";
     SetUpLanguage(translator, resource);
@@ -138,8 +138,8 @@ int Run(StartMode mode, FileLock& lock) {
     Launcher launcher;
     ReportStage(Stage::kReady);
     WaitForOtherBundle(lock);
-    if (mode >= StartMode::kAfterRepair) {
-        Service::PutBackupBack();
+    if (attempt.mode >= StartMode::kAfterRepair) {
+        Service::Repair(attempt);
     }
     launcher.Run();
     launcher.Start();
@@ -159,10 +159,10 @@ int RunWithWindow(const Attempt& attempt, int argc, char** argv, const QString& 
         return EndAsSecondInstance();
     }
     StayUntilTheRunIsOver(application);
-    return Run(attempt.mode, lock);
+    return Run(attempt, lock);
 }
 
-// The last attempt depends on nothing that may have ended the others: no window, no package.
+// The last attempt needs neither a window nor the package.
 int OpenOnly(const Attempt& attempt, int argc, char** argv) {
     ReportStage(Stage::kReady);
     QCoreApplication application(argc, argv);
@@ -172,7 +172,7 @@ int OpenOnly(const Attempt& attempt, int argc, char** argv) {
     FileLock lock(InstallLockPath(), Program());
     if (!IsHeldByThisBundle(lock)) {
         WaitForOtherBundle(lock);
-        Service::PutBackupBack();
+        Service::Repair(attempt);
         MacService().PostUpgrade();
     }
     ReportStage(Stage::kOpened);
@@ -185,7 +185,7 @@ int Launch(const Attempt& attempt, int argc, char** argv) {
     UseUtf8FileNames();
     const QString library_path = SetLibraryPath(argv[0]);
     if (attempt.mode >= StartMode::kWithoutDisplay) {
-        argc = 1;  // an argument can ask Qt for a platform
+        argc = 1;  // an argument may select a platform
     }
     return attempt.mode == StartMode::kOpenOnly ? OpenOnly(attempt, argc, argv)
                                                 : RunWithWindow(attempt, argc, argv, library_path);

@@ -1,4 +1,4 @@
-// The bridge from code that knows no window to the window.
+// Sends progress and texts to the window.
 #include "ui-client/launcher/notify-adapter.h"
 
 Notify_Adapter* Notify_Adapter::GetInstance() {

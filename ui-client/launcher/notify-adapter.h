@@ -1,16 +1,16 @@
-// The bridge from code that knows no window to the window.
+// Sends progress and texts to the window.
 #pragma once
 
 #include <QObject>
 #include <QString>
 
-// The one process-wide sender of progress and label text. It keeps no state: with nobody connected
-// its signals go nowhere. UpdateProgress and UpdateDialogText may be called on any thread.
+// The sender of progress and label texts. Has no state. Any thread may call UpdateProgress and
+// UpdateDialogText.
 class Notify_Adapter : public QObject {
     Q_OBJECT
 
   public:
-    // The one object, made at the first call and belonging to that call's thread. Any thread.
+    // The only object, created by the first call, on the thread of that call. Any thread.
     static Notify_Adapter* GetInstance();
 
     // Emits sigUpdateProgress: `current` of `total` steps are done.

@@ -1,4 +1,4 @@
-// Where the parts of a package lie beside an application.
+// Default paths of a package next to an application.
 #include "ui-client/launcher/package-info.h"
 
 #include <QCoreApplication>

@@ -1,10 +1,9 @@
-// Where the parts of a package lie beside an application.
+// Default paths of a package next to an application.
 #pragma once
 
 #include "ustring/ustring.h"
 
-// Default places, all but `log_dir` below the directory of the running executable. The upgrade
-// takes its paths from Service instead. The application object must exist.
+// The upgrade uses the paths of Service instead. Precondition: the application object exists.
 struct PackageInfo {
     PackageInfo();
 

@@ -1,4 +1,4 @@
-// Looks of the progress window.
+// The progress window.
 #include "ui-client/launcher/processing-progress-dialog.h"
 
 #include <QFont>
@@ -10,7 +10,7 @@
 #include "ui-client/launcher/str-table.h"
 
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags()) {
-    // The base would show itself after its minimum duration, on a slow run with nothing to show.
+    // The base class shows itself after its minimum duration.
     setMinimumDuration(std::numeric_limits<int>::max());
     const QFont font(kWindowFontFamily, -1, -1, false);
     const ustring icon =

@@ -1,16 +1,16 @@
-// The one window of the program.
+// The progress window.
 #pragma once
 
 #include <QProgressDialog>
 
 constexpr char kWindowFontFamily[] = "Arial";
 
-// A small progress window from 0 to 100, hidden until it is shown. Main thread, like every widget.
+// Progress from 0 to 100. Hidden at first. Main thread.
 class ProcessingProgressDialog : public QProgressDialog {
     Q_OBJECT
 
   public:
-    // Texts are translated here: translator and string table must be ready.
+    // Precondition: translator and string table are set up.
     ProcessingProgressDialog();
     ~ProcessingProgressDialog() override;
 };

@@ -1,4 +1,4 @@
-// Texts between the GUI's string type and the one below it.
+// Conversions between QString and ustring.
 #pragma once
 
 #include <QString>

@@ -1,4 +1,4 @@
-// Install layout, version records, and the transaction that replaces the per-user copy.
+// Paths, versions, and the transaction that replaces the per-user copy.
 #include "ui-client/launcher/quillmere-service.h"
 
 #include <sys/stat.h>
@@ -15,6 +15,7 @@
 #include "install-layout.h"
 #include "log.h"
 #include "platform/files/flush.h"
+#include "platform/process/supervisor.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/qt-text.h"
 
@@ -56,7 +57,7 @@ void LoadVersion(const ustring& path, VerInfo& version) {
     LoadKey(info, "icon_overlay_version", version.icon_overlay_version);
 }
 
-// Closes the handle that it is given.
+// Closes a handle.
 class DirCloser {
   public:
     explicit DirCloser(DIR_HANDLE& handle) : handle_(handle) {}
@@ -125,14 +126,15 @@ void Service::LoadTargetVersion() {
 
 namespace {
 
-// Whether nothing stands at `path`, for sure. A look that fails otherwise (EIO, EACCES, EMFILE)
-// does not say so, and what cannot be seen may be the only copy.
+// Whether `path` certainly does not exist. After another error (EIO, EACCES, EMFILE) it may exist,
+// and be the only copy.
 bool IsAbsent(const ustring& path) {
     struct stat status;
     return lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
 }
 
-// Moves `app` to the first backup name that takes it. Result: 0, with the name and its index; -1.
+// Renames `app` to the first backup name that is possible. Result: 0 with the name and its index;
+// -1.
 int BackUp(const ustring& app, ustring& backup, int& index) {
     for (index = 0; index < layout::kBackups; ++index) {
         backup = GetAppBackupDir(app, index);
@@ -148,10 +150,17 @@ int BackUp(const ustring& app, ustring& backup, int& index) {
     return -1;
 }
 
-// Removes the version first: a copy that is removed only in part must not count as a whole one.
+// Removes the version first, because a partial copy must not have one.
 void RemoveCopy(const ustring& copy) {
     FSRemove(Below(copy, layout::kInfo), false);
     FSRemove(copy, false);
+}
+
+// Removes the first `backups` names.
+void RemoveBackups(const ustring& app, int backups) {
+    for (int index = 0; index < backups; ++index) {
+        RemoveCopy(GetAppBackupDir(app, index));
+    }
 }
 
 void RollBack(const ustring& app, const ustring& backup) {
@@ -162,7 +171,7 @@ void RollBack(const ustring& app, const ustring& backup) {
 
 enum class Version { kPresent, kMissing, kUnknown };
 
-// Whether a copy has a version. A version that cannot be read is neither present nor missing.
+// Whether a copy has a version; kUnknown if it cannot be read.
 Version VersionOf(const ustring& copy) {
     const ustring path = Below(copy, layout::kInfo);
     if (IsAbsent(path)) {
@@ -179,13 +188,13 @@ Version VersionOf(const ustring& copy) {
     return file.error() == QFile::NoError ? Version::kMissing : Version::kUnknown;
 }
 
-// rename(2) changes a directory's time of status change.
+// rename(2) updates the time of the last status change.
 bool IsNewer(const struct stat& one, const struct stat& other) {
     return std::tie(one.st_ctim.tv_sec, one.st_ctim.tv_nsec) >
            std::tie(other.st_ctim.tv_sec, other.st_ctim.tv_nsec);
 }
 
-// The backup with a version that was moved last; empty without one.
+// Returns the backup with a version that was renamed last, or an empty path.
 ustring NewestBackup(const ustring& app) {
     ustring newest;
     struct stat newest_status = {};
@@ -201,14 +210,26 @@ ustring NewestBackup(const ustring& app) {
     return newest;
 }
 
+void PutBack(const ustring& app, const ustring& backup) {
+    Logger::LogMsg(LOG_LINE(NOTE, "putting '%s' back\n"), backup.c_str());
+    RollBack(app, backup);
+}
+
 }  // namespace
 
-void Service::PutBackupBack() {
+void Service::Repair(const Attempt& attempt) {
     const ustring app = GetUserQuillmereAppInstallPath();
-    const ustring backup = VersionOf(app) == Version::kMissing ? NewestBackup(app) : ustring();
-    if (!backup.empty()) {
-        Logger::LogMsg(LOG_LINE(NOTE, "putting '%s' back\n"), backup.c_str());
-        RollBack(app, backup);
+    if (attempt.reached == Stage::kInstalled) {
+        RemoveBackups(app, attempt.backups);
+        return;
+    }
+    const ustring moved = GetAppBackupDir(app, attempt.backups - 1);
+    if (attempt.reached == Stage::kMoved && !IsAbsent(moved)) {
+        PutBack(app, moved);
+    }
+    const ustring newest = VersionOf(app) == Version::kMissing ? NewestBackup(app) : ustring();
+    if (!newest.empty()) {
+        PutBack(app, newest);
     }
 }
 
@@ -220,11 +241,14 @@ int Service::PrepareUserEnv() {
     if (may_be_there && BackUp(app, backup, index) != 0) {
         return -1;
     }
+    const char backups = static_cast<char>(index + 1);
+    if (may_be_there) {
+        ReportStage(Stage::kMoved, backups);
+    }
     if (ExtractPackage() == 0) {
         Logger::LogMsg(LOG_LINE(INFO, "user installation is ready, removing backup app\n"));
-        for (int k = 0; k <= index; ++k) {
-            RemoveCopy(GetAppBackupDir(app, k));
-        }
+        ReportStage(Stage::kInstalled, backups);
+        RemoveBackups(app, backups);
         return 0;
     }
     if (backup.empty()) {

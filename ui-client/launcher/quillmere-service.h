@@ -1,77 +1,79 @@
-// The upgrade of the per-user copy, and the paths of it and of the bundle.
+// Upgrades of the per-user copy, and the paths of copy and bundle.
 #pragma once
 
+#include "platform/process/supervisor.h"
 #include "ustring/ustring.h"
 
-// The four version texts of an INFO file, as read from it.
+// The four fields of an INFO file.
 struct VerInfo {
     ustring major_version;
     ustring minor_version;
-    ustring build_version;  // the one that decides, by its leading decimal number
+    ustring build_version;  // its leading decimal number decides about an upgrade
     ustring icon_overlay_version;
 };
 
-// The operations of an upgrade. "Source" is the per-user copy that an upgrade starts from, "target"
-// the package in the bundle that it leads to. An object is made on the main thread and used on one
-// thread from then on; its operations block as long as they take. What goes wrong is told in the
-// log under "service_debug".
+// The operations of an upgrade. The "source" is the per-user copy, the "target" the package in the
+// bundle. Created on the main thread, then used by one thread. Operations block until they are done
+// and log failures as "service_debug".
 //
-// The install layout. The bundle is only read:
+// The bundle is read only:
 //
-//     ROOT = two levels above the directory of the running executable
+//     ROOT = two levels above the directory of the executable
 //     RES  = ROOT/Contents/Resources       INFO, package/quillmere.qpk, images/
 //
-// and the per-user tree is the one place that is written to:
+// The user's directory:
 //
-//     USER = <home>/.Quillmere          log/; the client's ui.pid and data; app, which is aged
+//     USER = <home>/.Quillmere          log/; the client's ui.pid and data; app, from old versions
 //     APP  = USER/Quillmere.app         the per-user copy
-//     APP_tmp, APP_tmp1 to APP_tmp9     the old copy during an upgrade
+//     APP_tmp, APP_tmp1 to APP_tmp9     backups: the old copy during an upgrade
 class Service {
   public:
     Service();
     virtual ~Service();
 
-    // Ends a running client.
+    // Stops a running client.
     virtual void StopService() = 0;
     // Stores `timeout`. No operation reads it.
     virtual void SetTimeout(int timeout);
-    // Stops the client if it is installed, and runs PrepareUserEnv. Result: 0 when the new copy is
-    // in place; -1 when it is not.
+    // Stops the client if it is installed, and runs PrepareUserEnv. Result: that of PrepareUserEnv.
     virtual int HandlePackageUpgrade() = 0;
     // Opens the per-user client.
     virtual void PostUpgrade() = 0;
     // Loads both version records.
     virtual void PreUpgrade() = 0;
     // Whether the target is newer than the source, or the client's executable is missing.
+    // Precondition: PreUpgrade was called.
     virtual bool IsNeedUpgrade() = 0;
-    // Unpacks the package into APP. Result: 0 with all of it on the disk; any other on failure, and
-    // what was written stays.
+    // Extracts the package to APP. Result: 0 with everything on the disk; another value on failure,
+    // with a partial copy.
     virtual int ExtractPackage();
-    // Fill a version record from an INFO file: the INI syntax of QSettings, group "Version". What
-    // is missing leaves its field as it was.
+    // Read an INFO file: the INI syntax of QSettings, group "Version". A missing value leaves its
+    // field unchanged.
     virtual void LoadSourceVersion();
     virtual void LoadTargetVersion();
-    // Replaces the per-user copy: moves the old one aside, unpacks, and removes the old one, or
-    // moves it back when unpacking fails. Result: 0 when the new copy is in place; -1 when it is
-    // not, with the old copy under its name again if there was one and it could be moved. Nothing
-    // is touched when no look can tell whether there is an old copy. At every moment, also after a
-    // power cut, APP or a backup is whole, and a torn APP has no version.
+    // Replaces the per-user copy: renames it to a backup, extracts the package, and removes the
+    // backup, or renames it back if the extraction failed. Result: 0 with the new copy; -1 with the
+    // old copy, if there was one and it could be renamed. If it is unknown whether there is a copy,
+    // changes nothing. At every moment, also after a power cut, APP or a backup is whole, and a
+    // partial APP has no version.
     virtual int PrepareUserEnv();
 
-    // Repairs the copy after an attempt that died: if APP has no version and a backup has one,
-    // removes APP and renames the newest such backup to it, on the disk at return. Does nothing if
-    // the version of APP cannot be read.
-    static void PutBackupBack();
+    // Completes or undoes the upgrade of a previous attempt that died. After Stage::kInstalled,
+    // removes the backups. After Stage::kMoved, puts the backup of that upgrade back, unless that
+    // attempt did it. Then puts the newest backup with a version back if APP has none; not if the
+    // version of APP cannot be read. To put a backup back is to remove APP and to rename the
+    // backup; both are on the disk at return.
+    static void Repair(const Attempt& attempt);
 
-    // Copies a file or a whole tree, contents only; links are copied as what they lead to. A
-    // directory that cannot be opened gives an empty one and a warning. Result: 0; -1 at the first
-    // entry that fails, with what was copied until then left in place.
+    // Copies the contents of a file or a tree, and the targets of links. A directory that cannot be
+    // opened becomes an empty one, with a warning. Result: 0; -1 at the first entry that fails,
+    // with a partial copy.
     int FSCopyPath(const ustring& src, const ustring& dst);
 
     // Removes USER/app, where old versions were installed.
     void RemoveAgedFolders();
 
-    // The places of the layout, in UTF-8. They touch no disk; the application object must exist.
+    // Paths, in UTF-8. Precondition: the application object exists.
     static ustring GetUserInstallPath();                   // <home>
     static ustring GetRootQuillmereInstallPath();          // ROOT
     static ustring GetRootQuillmereResourceInstallPath();  // RES

@@ -1,4 +1,4 @@
-// The string table: its rows, and how an id becomes a text in the user's language.
+// The string table.
 #include "ui-client/launcher/str-table.h"
 
 #include <QCoreApplication>
@@ -23,7 +23,7 @@ void StrTable::InitStrTable() {
 
 QString StrTable::LoadStr(int id) {
     QString text = QCoreApplication::translate(kContext, stab[id], nullptr, -1);
-    // Most texts have neither, and one look is cheaper than two replacements.
+    // Most texts have no backslash, and one search is cheaper than two replacements.
     if (text.contains(QLatin1Char('\\'))) {
         text.replace(QLatin1String("\\n"), QLatin1String("\n"), Qt::CaseSensitive);
         text.replace(QLatin1String("\\t"), QLatin1String("\t"), Qt::CaseSensitive);

@@ -1,10 +1,10 @@
-// The catalogue of the product's user-visible texts.
+// The texts that users see.
 #pragma once
 
 #include <QString>
 
-// Each text has an id, its position from 0 to 525, and a key, a symbolic name. The English wording
-// is both the default text and the source under which a translation is found.
+// Each text has an id from 0 to 525, a key, and an English wording, which is also the source text
+// of its translations.
 namespace StrTable {
 
 // The ids that the launcher shows.
@@ -12,16 +12,15 @@ constexpr int kEnvironmentReady = 83;       // desc_qlm_env_preparation_done
 constexpr int kEnvironmentPreparing = 341;  // desc_qlm_env_preparing
 constexpr int kAppName = 365;               // app_name
 
-// Fills the table. Main thread, before any other thread exists; a second call changes nothing.
+// Fills the table. Main thread, before other threads exist. A second call changes nothing.
 void InitStrTable();
 
-// The text of row `id`, which must be from 0 to 525, in the language of the installed translator,
-// or in English; the two characters backslash and n, or t, in it become a newline, or a tab. Marks
-// such as %1 come back as they are. Any thread after InitStrTable.
+// Returns the text with this id, from 0 to 525, translated by the installed translator. Replaces
+// "\n" by a newline and "\t" by a tab, and keeps placeholders such as %1. Any thread after
+// InitStrTable.
 QString LoadStr(int id);
 
-// The id of the row with this key, ignoring case; -1 if there is none. Any thread after
-// InitStrTable.
+// Returns the id of a key, ignoring case, or -1. Any thread after InitStrTable.
 int LookupStrID(QString key);
 
 }  // namespace StrTable

@@ -1,4 +1,4 @@
-// The choice among the product's languages.
+// Selects one of the product's languages.
 #include "ui-client/libcommon/OrvaLocale.h"
 
 #include <QFile>
@@ -17,7 +17,7 @@ constexpr int kLanguages = sizeof grgszLanguages / sizeof *grgszLanguages - 1;
 
 const QString qstrLanguageFallSafe("enu");
 
-// Whether `name` stands in a list that ends with a null string.
+// Whether `name` is in a list that ends with a null string.
 bool IsOneOf(const QString& name, const QString* list) {
     for (; !list->isNull(); ++list) {
         if (name == *list) {
@@ -49,7 +49,7 @@ QString OrvaLocale::getLanguageOf(const QString& locale) {
                                        {"pl", "plk"}, {"hu", "hun"}, {"tr", "trk"}, {"cs", "csy"}};
     const QString traditional_chinese[] = {"zh_tw", "zh_hk", "zh_mo", QString()};
     const QString european_portuguese[] = {"pt", "pt_pt", QString()};
-    // Whole names go before the language part.
+    // Full names have precedence over the language part.
     if (IsOneOf(qstrLocaleLower, traditional_chinese)) {
         qstrDef = "cht";
     }

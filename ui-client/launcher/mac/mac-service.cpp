@@ -1,4 +1,4 @@
-// Version decision, and control of the client.
+// The upgrade decision, and control of the client.
 #include "ui-client/launcher/mac/mac-service.h"
 
 #include <signal.h>
@@ -34,7 +34,7 @@ int VersionNumber(const ustring& text) {
     return text.size() == 0 ? 0 : std::atoi(text.c_str());
 }
 
-// kill(2) takes 0 and negative numbers for whole groups, and 1 is the system's first process.
+// For kill(2), 0 and negative numbers are process groups. 1 is init.
 bool MayBeClient(long pid) {
     return pid > 1 && pid != getpid() && static_cast<pid_t>(pid) == pid;
 }
@@ -43,8 +43,8 @@ bool IsGone(pid_t pid) {
     return kill(pid, 0) != 0 && errno == ESRCH;
 }
 
-// Result: the tool's exit code; negative if it cannot be run. Where there is none, no process is
-// forked to find that out: the client waits.
+// Result: the exit code; negative if the tool cannot be run. Does not fork if the tool does not
+// exist, because that would delay the client.
 int RunLsregister(const QStringList& arguments) {
     return QFileInfo::exists(kLsregister) ? QProcess::execute(kLsregister, arguments) : -2;
 }

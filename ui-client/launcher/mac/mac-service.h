@@ -1,36 +1,35 @@
-// The upgrade on Mac OS X, and on what stands in for it.
+// Service for Mac OS X and its stand-ins.
 #pragma once
 
 #include "ui-client/launcher/quillmere-service.h"
 
-// The platform's Service. It knows the client's executable, APP/Contents/MacOS/quillmere-ui, and
-// its pid file, USER/ui.pid with a line `pid=<number>` (see Config), which the client writes and
-// this only reads.
+// Knows the client's executable, APP/Contents/MacOS/quillmere-ui, and the pid file that the client
+// writes, USER/ui.pid with a line `pid=<number>` (see Config).
 class MacService : public Service {
   public:
     MacService();
     ~MacService() override;
 
-    // One object for the process, made at the first call. Any thread.
+    // An object for the whole process, created by the first call. Any thread.
     static MacService* GetInstace();
 
-    // Sends SIGTERM to the client named by the pid file, looks five times, a second apart, whether
-    // it is gone, and sends SIGKILL. A pid that cannot be a client's (0, negative, 1, the
-    // launcher's own, no number) gets no signal. Blocks for about 5 seconds at worst.
+    // Sends SIGTERM to the process in the pid file, probes it five times, a second apart, and sends
+    // SIGKILL if it still exists. Sends no signal to 0, negative numbers, 1 and this process.
+    // Blocks for up to 5 seconds.
     void StopService() override;
     int HandlePackageUpgrade() override;
     void PostUpgrade() override;
     void PreUpgrade() override;
     bool IsNeedUpgrade() override;
 
-    // Fill one version record each.
+    // Each loads one version record.
     void LoadSourceVerInfo();
     void LoadTargetVerInfo();
 
-    // Whether the client's executable is there, executable or not.
+    // Whether the client's executable exists, with any permissions.
     bool PerUserBinPathExist();
 
-    // Takes APP out of the system's registry of applications, and opens it. Result: 0 if the
-    // platform accepted the opening; -1 if not.
+    // Removes APP from the system's application registry and opens it. Result: 0 if the client was
+    // started; -1.
     static int LaunchPerUserBin();
 };
