@@ -7,6 +7,15 @@ add_library(quillmere-build INTERFACE)
 target_include_directories(quillmere-build INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
 target_compile_options(quillmere-build INTERFACE -Wall -Wextra -Wpedantic -Wshadow
                        $<$<BOOL:${QUILLMERE_WERROR}>:-Werror>)
+# A 32-bit system has files beyond 2 GiB and times beyond 2038 too.
+include(CheckTypeSize)
+set(CMAKE_EXTRA_INCLUDE_FILES time.h)
+check_type_size(time_t QUILLMERE_SYSTEM_TIME LANGUAGE CXX)
+set(CMAKE_EXTRA_INCLUDE_FILES)
+target_compile_definitions(quillmere-build INTERFACE _FILE_OFFSET_BITS=64)
+if(QUILLMERE_SYSTEM_TIME LESS 8)
+  target_compile_definitions(quillmere-build INTERFACE _TIME_BITS=64)
+endif()
 include(Hardening)
 quillmere_harden(quillmere-build)
 # Removes paths of this machine from the output. The last match counts.

@@ -3,12 +3,22 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-# Debian's packages for building, and those for testing and taking pictures.
+# The compiler and the major version of Qt come from the environment.
+compiler=${CXX:-g++}
+qt=${QUILLMERE_QT:-5}
+
+# Debian's packages for building, and those for testing and taking pictures. "a|b" is the first of the two that the
+# release has.
 build_packages=(
   g++ cmake ninja-build pkg-config git ca-certificates
-  qtbase5-dev qttools5-dev qttools5-dev-tools libarchive-dev libicu-dev libzstd-dev
-  libfontconfig-dev
+  libarchive-dev libicu-dev libzstd-dev libfontconfig-dev
 )
+case $compiler in *clang*) build_packages+=(clang) ;; esac
+case $qt in
+  5) build_packages+=(qtbase5-dev qttools5-dev qttools5-dev-tools) ;;
+  6) build_packages+=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools "qt6-qpa-plugins|libqt6gui6") ;;
+  *) echo "QUILLMERE_QT is $qt, and neither 5 nor 6" >&2 && exit 1 ;;
+esac
 packages=(
   "${build_packages[@]}"
   libgtest-dev zstd python3 mount util-linux procps
@@ -22,17 +32,35 @@ fail() {
   exit 1
 }
 
+is_installed() { dpkg-query -W -f '${Status}' "$1" 2>/dev/null | grep -q 'install ok installed'; }
+
+is_offered() { apt-cache show "$1" >/dev/null 2>&1; }
+
+# first_that CHECK NAME...: prints the first name that passes the check.
+first_that() {
+  local check=$1 name
+  shift
+  for name; do
+    ! $check "$name" || { echo "$name" && return; }
+  done
+  return 1
+}
+
 install_packages() {
-  local missing=() package
+  local missing=() names sudo=() package
   for package in "${packages[@]}"; do
-    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+    IFS='|' read -ra names <<<"$package"
+    first_that is_installed "${names[@]}" >/dev/null || missing+=("$package")
   done
   [ ${#missing[@]} -gt 0 ] || return 0
   say "Installing ${missing[*]}"
-  local root=()
-  [ "$(id -u)" -eq 0 ] || root=(sudo)
-  "${root[@]}" apt-get update -qq
-  "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -qq -y --no-install-recommends "${missing[@]}" >/dev/null
+  [ "$(id -u)" -eq 0 ] || sudo=(sudo)
+  "${sudo[@]}" apt-get update -qq
+  for package in "${!missing[@]}"; do
+    IFS='|' read -ra names <<<"${missing[package]}"
+    missing[package]=$(first_that is_offered "${names[@]}") || fail "no package ${names[*]}"
+  done
+  "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -qq -y --no-install-recommends "${missing[@]}" >/dev/null
 }
 
 # build PRESET [TARGET...]: everything, or these targets.
@@ -40,7 +68,7 @@ build() {
   local preset=$1
   shift
   say "Building ($preset)"
-  cmake --preset "$preset" >/dev/null
+  cmake --preset "$preset" -DQUILLMERE_QT="$qt" >/dev/null
   cmake --build --preset "$preset" ${1:+--target "$@"}
 }
 

@@ -53,6 +53,11 @@ int Fail(int error) {
     return -1;
 }
 
+bool IsZero(const void* bytes, size_t size) {
+    const char* const begin = static_cast<const char*>(bytes);
+    return std::all_of(begin, begin + size, [](char c) { return c == 0; });
+}
+
 template <class Function>
 Function* Next(const char* name) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
@@ -95,6 +100,9 @@ ssize_t read(int file, void* bytes, size_t size) {
 }
 
 ssize_t write(int file, const void* bytes, size_t size) {
+    if (g.leave_holes && IsZero(bytes, size)) {
+        return lseek(file, static_cast<off_t>(size), SEEK_CUR) < 0 ? -1 : static_cast<ssize_t>(size);
+    }
     return g.write_error != 0
                ? Fail(g.write_error)
                : syscall(SYS_write, file, bytes, std::min(size, g.most_bytes == SIZE_MAX ? size : g.most_bytes / 2));
@@ -106,7 +114,8 @@ ssize_t readlink(const char* path, char* text, size_t size) noexcept {
 }
 
 int statfs(const char* path, struct statfs* volume) noexcept {
-    static auto* const next = Next<int(const char*, struct statfs*)>("statfs");
+    // The structure has 64-bit fields on all systems here.
+    static auto* const next = Next<int(const char*, struct statfs*)>("statfs64");
     const int result = next(path, volume);
     if (g.volume_type != 0) { volume->f_type = static_cast<decltype(volume->f_type)>(g.volume_type); }
     return result;

@@ -26,7 +26,7 @@ struct _FILE_INFO_tag {
     ustring path;  // absolute, composed (NFC) and as the file system spells it, if it exists
     ustring name;  // last component of `path`
     int type = FS_TYPE_NONE;  // FS_TYPE_LINK for a symbolic link with any target
-    long mtime = 0;           // seconds since the epoch
+    long mtime = 0;           // seconds since the epoch, or the nearest value of a long
     std::int64_t size = 0;    // st_size, for all types
     bool exists = false;
     std::uint32_t uid = 0;

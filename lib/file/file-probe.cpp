@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <climits>
 #include <iterator>
 
 #include "lib/file/internal.h"
@@ -88,7 +89,7 @@ int GetFileInfo(ustring const& path, _FILE_INFO_tag& info) {
         return 0;
     }
     info.exists = true;
-    info.mtime = status.st_mtime;
+    info.mtime = static_cast<long>(std::clamp<std::int64_t>(status.st_mtime, LONG_MIN, LONG_MAX));
     info.size = status.st_size;
     info.uid = status.st_uid;
     info.gid = status.st_gid;

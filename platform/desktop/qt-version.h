@@ -3,6 +3,8 @@
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
+#include <QProcess>
+#include <functional>
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 
@@ -26,7 +28,26 @@ void DisableFallbackSessionManagement() {
     Application::setFallbackSessionManagementEnabled(false);
 }
 
+// A process with an action between fork and exec.
+class ChildProcess : public QProcess {
+  public:
+    explicit ChildProcess(std::function<void()> in_child) : in_child_(std::move(in_child)) {}
+
+  protected:
+    void setupChildProcess() override { in_child_(); }
+
+  private:
+    std::function<void()> in_child_;
+};
+
 #else
+
+class ChildProcess : public QProcess {
+  public:
+    explicit ChildProcess(const std::function<void()>& in_child) {
+        setChildProcessModifier(in_child);
+    }
+};
 
 inline QString QtPluginsDirectory() {
     return QLibraryInfo::path(QLibraryInfo::PluginsPath);

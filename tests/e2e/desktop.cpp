@@ -15,10 +15,12 @@ namespace fs = std::filesystem;
 Desktop::Desktop(int resolution) {
     static int argc = 0;
     static const QCoreApplication application(argc, nullptr);  // for sockets
-    server_.start("Xvfb", {"-displayfd", "1", "-noreset", "-listen", "tcp", "-screen", "0", "1280x800x24", "-dpi",
-                           QString::number(resolution)});
+    server_.start("Xvfb", {"-displayfd", "1", "-noreset", "-listen", "tcp", "-screen", "0", "1280x800x24"});
     EXPECT_TRUE(WaitFor([&] { return server_.canReadLine() || server_.waitForReadyRead(100); }));
     display_ = ":" + server_.readLine().trimmed();
+    // Desktops set this. Some releases of Qt ignore the physical size of the screen.
+    QProcess::execute("xprop", {"-display", display_, "-root", "-f", "RESOURCE_MANAGER", "8s", "-set",
+                                "RESOURCE_MANAGER", "Xft.dpi:\t" + QString::number(resolution)});
     // Default key bindings, not those of this user.
     manager_.start("env", {"DISPLAY=" + display_, "HOME=" + QDir::tempPath(), "XDG_CONFIG_HOME=", "openbox",
                            "--startup", "echo ready"});

@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "make_archive.h"
+#include "platform/desktop/qt-version.h"
 
 namespace fs = std::filesystem;
 
@@ -17,12 +18,6 @@ std::string Info(int build) {
     return "[Version]\nmajor_version=1\nminor_version=0\nbuild_version=" + std::to_string(build) +
            "\nicon_overlay_version=1\n";
 }
-
-struct ChildProcess : QProcess {
-    explicit ChildProcess(const std::function<void()>& action) : in_child(action) {}
-    void setupChildProcess() override { in_child(); }
-    std::function<void()> in_child;
-};
 
 }  // namespace
 

@@ -1,6 +1,9 @@
 // Tests of the file layer: copies, moves, new directories, removal.
+#include <fcntl.h>
+
 #include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstring>
 #include <thread>
 
@@ -153,6 +156,40 @@ TEST_F(FileOp, RenameAcrossVolumes) {
         EXPECT_EQ(Content("a"), before);
         TestRename("a/link", "b/dir/file", false, 0);
         EXPECT_EQ(OpenDescriptors(), descriptors_);
+    });
+}
+
+// Size, time and inode number take more than 32 bits.
+TEST_F(FileOp, MovesAndCountsLargeFiles) {
+    constexpr std::int64_t kSize = (4LL << 30) + 3, kTime = 5000000000;
+    const timespec times[] = {{kTime, 0}, {kTime, 0}};
+    const auto mount_volumes = [&] {
+        fs::create_directory("a");
+        if (!OwnMounts() || mount("", "dir", "tmpfs", 0, nullptr) || mount("", "empty", "tmpfs", 0, nullptr)) {
+            return false;
+        }
+        std::ofstream("dir/large").seekp(kSize - 3) << "end";
+        utimensat(AT_FDCWD, "dir/large", times, 0);
+        fs::create_directories("empty/upper");
+        fs::create_directories("empty/work");
+        // The numbers of what is in the lower directory have high bits.
+        return !mount("", "a", "overlay", 0, "lowerdir=dir,upperdir=empty/upper,workdir=empty/work,xino=on");
+    };
+    InChild(mount_volumes, [&] {
+        EXPECT_GT(Status("a/large").st_ino, UINT32_MAX);
+        _FILE_INFO_tag info;
+        EXPECT_EQ(GetFileInfo("a/large", info), 0);
+        EXPECT_EQ(info.size, kSize);
+        EXPECT_EQ(info.mtime, std::min<std::int64_t>(kTime, LONG_MAX));
+        hooks::g.leave_holes = true;
+        EXPECT_EQ(FSRename("a/large", "empty/large", false), 0);
+        std::ifstream file("empty/large");
+        std::string end;
+        file.seekg(kSize - 3) >> end;
+        EXPECT_EQ(end, "end");
+        EXPECT_EQ(fs::file_size("empty/large"), kSize);
+        EXPECT_EQ(FSRemove("a", false), -3);  // it is mounted, but empty now
+        EXPECT_TRUE(fs::is_empty("a"));
     });
 }
 

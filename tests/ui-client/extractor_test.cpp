@@ -67,6 +67,18 @@ TEST_F(ExtractorTest, WritesReportsAndCounts) {
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "dir/\ndir/run\nno/parents\nreplaced\nlink\n");
 }
 
+TEST_F(ExtractorTest, UnpacksAFileOfMoreThanFourGibibytes) {
+    constexpr std::int64_t kSize = (4LL << 30) + 3;
+    std::ofstream(home / "large").seekp(kSize - 3) << "end";
+    ASSERT_EQ(std::system(("tar --sparse -C " + home.path() + " -cf " + home.path() + "/archive large").c_str()), 0);
+    EXPECT_EQ(ExtractAfresh(), 0);
+    EXPECT_EQ(fs::file_size(home / "dest/large"), kSize);
+    std::ifstream file(home / "dest/large");
+    std::string end;
+    file.seekg(kSize - 3) >> end;
+    EXPECT_EQ(end, "end");
+}
+
 // Files from before a failure stay. A package may have links to any place.
 TEST_F(ExtractorTest, HandlesHostileAndOddPackages) {
     const std::string outside = home / "outside";

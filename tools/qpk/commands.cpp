@@ -132,10 +132,10 @@ std::optional<VersionInfo> ReadVersion(const Parser& parser) {
 }
 
 // https://reproducible-builds.org/specs/source-date-epoch/
-std::time_t SourceDateEpoch() {
+std::int64_t SourceDateEpoch() {
     const char* const name = "SOURCE_DATE_EPOCH";
     const std::string text = qgetenv(name).toStdString();
-    return text.empty() ? 0 : Number(name, text, 0, std::numeric_limits<std::time_t>::max());
+    return text.empty() ? 0 : Number(name, text, 0, LatestTime());
 }
 
 PackageOptions ReadPackageOptions(const Parser& parser) {

@@ -4,7 +4,9 @@
 #include <QFile>
 #include <algorithm>
 #include <cerrno>
+#include <ctime>
 #include <exception>
+#include <limits>
 #include <vector>
 
 #include "install-layout.h"
@@ -101,7 +103,7 @@ class PackageWriter {
         const ArchiveEntry header(archive_entry_new());
         archive_entry_set_pathname(header.get(), entry.path.c_str());
         archive_entry_set_mode(header.get(), entry.mode);
-        archive_entry_set_mtime(header.get(), options_.time, 0);
+        archive_entry_set_mtime(header.get(), static_cast<std::time_t>(options_.time), 0);
         archive_entry_set_size(header.get(), entry.size);
         if (S_ISLNK(entry.mode)) {
             archive_entry_set_symlink(header.get(), entry.link_text.c_str());
@@ -154,6 +156,10 @@ std::string TakeInfo(const PackageOptions& options, Entries& entries, Findings& 
 }
 
 }  // namespace
+
+std::int64_t LatestTime() {
+    return std::numeric_limits<std::time_t>::max();
+}
 
 std::string WritePackage(const PackageOptions& options) {
     Entries entries = ReadClientTree(options.client);

@@ -1,7 +1,7 @@
 // Writes packages.
 #pragma once
 
-#include <ctime>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -12,9 +12,12 @@ struct PackageOptions {
     std::string package;  // the file to write
     // The content of INFO; if not set, that of the client's directory.
     std::optional<VersionInfo> version;
-    int level = 9;         // of zstd
-    std::time_t time = 0;  // of all entries
+    int level = 9;          // of zstd
+    std::int64_t time = 0;  // of all entries, 0 to LatestTime()
 };
+
+// The latest time that an entry can have on this system, in seconds since the epoch.
+std::int64_t LatestTime();
 
 // Packs a client into a pax tar compressed by zstd. The entries are in path order, except that INFO
 // is last: an incomplete copy has no version, and the next start replaces it. The same input gives
