@@ -1,5 +1,5 @@
 // Kills the launcher, fails its calls and cuts its power at its calls on files, and checks what is left. A point is one
-// fault at one call. Tests every 199th point; all with QUILLMERE_FAULTS=all; all of one fault with its name there.
+// fault at one call. Tests every 397th point; all with QUILLMERE_FAULTS=all; all of one fault with its name there.
 #include <sys/resource.h>
 
 #include <algorithm>
@@ -263,7 +263,7 @@ class Faults : public testing::TestWithParam<Scenario> {
 
 TEST_P(Faults, LoseNothingAndTheNextRunMendsThem) {
     const std::string wanted = qEnvironmentVariable("QUILLMERE_FAULTS").toStdString();
-    const int stride = wanted.empty() ? 199 : 1;
+    const int stride = wanted.empty() ? 397 : 1;
     std::vector<Fault> faults = AllFaults();
     if (!wanted.empty() && wanted != "all") {
         faults.erase(std::remove_if(faults.begin(), faults.end(), [&](auto& fault) { return fault.name != wanted; }),
