@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Checks the translation files against the English ones: check_texts.py DIRECTORY_OF_TS_FILES
 
-Prints a line for each fault and ends with 1 if there are any. In texts/ lie fixed-texts.tsv, the two texts
+Prints a line for each fault and ends with 1 if there are any. texts/ has fixed-texts.tsv, the two texts
 that each language has to the letter, and allowed-english.tsv, the texts that may read like the English. The
 words of TERMS come from docs/glossary.tsv.
 """

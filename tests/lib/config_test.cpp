@@ -1,4 +1,4 @@
-// Tests of the reader of key and value files: which lines it takes, and what a refusal leaves.
+// Tests of Config: valid and malformed lines, and numbers.
 #include "config.h"
 
 #include <climits>
@@ -10,7 +10,7 @@ namespace {
 
 using namespace std::string_literals;
 
-// What reading a file gives and makes of a map with an entry.
+// The result of reading a file into a map with an entry, and the map, as text.
 std::string Read(const std::string& path) {
     Config config;
     config["~"] = "former";
@@ -19,9 +19,9 @@ std::string Read(const std::string& path) {
     return text;
 }
 
-TEST(ConfigTest, LinesThatAreTakenAndLinesThatRefuseTheWholeFile) {
+TEST(ConfigTest, AcceptsValidLinesAndRejectsFilesWithOthers) {
     const TempDir dir;
-    const std::string longest(8189, 'x');  // with "k=", what one read takes
+    const std::string longest(8189, 'x');  // with "k=", the longest line
     const std::vector<std::string> rows[] = {{" k = v # w\n", "(k:v)"},
                                              {"k=\"a b\"\nl=\"\"\n", "(k:a b)(l:)"},
                                              {"k='a#\"'#\n", "(k:a#\")"},
@@ -49,11 +49,11 @@ TEST(ConfigTest, LinesThatAreTakenAndLinesThatRefuseTheWholeFile) {
         EXPECT_EQ(Read(dir / "file"), "-1") << line;
     }
     EXPECT_EQ(Read("") + Read(dir / "missing"), "-1(~:former)-1(~:former)");
-    EXPECT_EQ(Read(dir.path()), "0(~:former)");  // a read error is an end
+    EXPECT_EQ(Read(dir.path()), "0(~:former)");  // a read error counts as the end
     EXPECT_EQ(OpenDescriptors(), descriptors) << "a file stayed open";
 }
 
-TEST(ConfigTest, GetIntTakesTheLeadingDecimalNumber) {
+TEST(ConfigTest, GetIntReturnsTheLeadingDecimalNumber) {
     Config config;
     for (const auto& [value, number] : std::map<std::string, int>{{"", 0},
                                                                   {"+7", 7},

@@ -79,7 +79,7 @@ TEST_F(FileOp, CopiesInSeveralThreads) {
     }
 }
 
-// A move that is refused changes nothing on either side.
+// A failed move changes nothing.
 void TestRename(const std::string& from, const std::string& to, bool exact, int result) {
     SCOPED_TRACE(from + " to " + to);
     const std::string source = Content(from), target = Content(to);
@@ -136,7 +136,7 @@ TEST_F(FileOp, RenameAcrossVolumes) {
         EXPECT_EQ(Content("b/no"), "0");
         WriteFile("a/tree/sub/x", "new");
         WriteFile("a/tree/sub/y", "y");
-        EXPECT_EQ(FSRename(at_ / "a/tree", "b/tree", true), 0);  // the two merge
+        EXPECT_EQ(FSRename(at_ / "a/tree", "b/tree", true), 0);  // the trees merge
         EXPECT_EQ(ReadFile("b/tree/sub/x"), "new");
         EXPECT_EQ(ReadFile("b/tree/sub/y"), "y");
         EXPECT_EQ(Content("a/tree"), "0");
@@ -172,7 +172,7 @@ TEST_F(FileOp, MovesAndCountsLargeFiles) {
         utimensat(AT_FDCWD, "dir/large", times, 0);
         fs::create_directories("empty/upper");
         fs::create_directories("empty/work");
-        // The numbers of what is in the lower directory have high bits.
+        // Inode numbers of the lower directory have high bits.
         return !mount("", "a", "overlay", 0, "lowerdir=dir,upperdir=empty/upper,workdir=empty/work,xino=on");
     };
     InChild(mount_volumes, [&] {
@@ -188,7 +188,7 @@ TEST_F(FileOp, MovesAndCountsLargeFiles) {
         file.seekg(kSize - 3) >> end;
         EXPECT_EQ(end, "end");
         EXPECT_EQ(fs::file_size("empty/large"), kSize);
-        EXPECT_EQ(FSRemove("a", false), -3);  // it is mounted, but empty now
+        EXPECT_EQ(FSRemove("a", false), -3);  // a mount point, but empty now
         EXPECT_TRUE(fs::is_empty("a"));
     });
 }
@@ -267,7 +267,7 @@ TEST_F(FileOp, RemovesATreeOfAnyDepth) {
             });
 }
 
-// Somebody replaces a directory with a link out of the tree during its removal.
+// Another process replaces a directory with a link out of the tree during its removal.
 TEST_F(FileOp, RemovalDoesNotLeaveTheTree) {
     fs::create_directories("empty/swapped/sub");
     hooks::g.before_openat = [] {
@@ -278,7 +278,7 @@ TEST_F(FileOp, RemovalDoesNotLeaveTheTree) {
     EXPECT_EQ(FSRemove("empty", false), -3);
     EXPECT_TRUE(fs::exists("dir/inner"));
     EXPECT_TRUE(fs::exists("elsewhere/sub"));
-    // Or it moves a directory that is being emptied, so that ".." is another one.
+    // Or it moves a directory that is being emptied, so that ".." changes.
     fs::create_directories("tree/a/b/c");
     fs::create_directory("other");
     WriteFile(at_ / "other/b", "");
@@ -297,7 +297,7 @@ TEST_F(FileOp, RemovalDoesNotLeaveTheTree) {
 }
 
 TEST_F(FileOp, TemporaryNames) {
-    // The second is the longest that leaves room for the name.
+    // The second is the longest possible directory.
     const mode_t former = umask(077);
     ustring out;
     for (const std::string& dir : {at_ / "empty", "empty" + std::string(4083, '/')}) {

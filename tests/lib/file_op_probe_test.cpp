@@ -96,7 +96,7 @@ TEST_F(FileOp, ProbesWithoutProc) {
 }
 
 // The name counts, not the opened file.
-TEST_F(FileOp, AFileThatIsReplacedOrRemovedWhileItIsLookedUp) {
+TEST_F(FileOp, AFileIsReplacedOrRemovedDuringTheLookup) {
     const Rows<std::function<void()>, bool> rows = {
         {[] { fs::rename("dir/inner", "file"); }, true},
         {[] { fs::create_hard_link("file", "second"), fs::remove("file"); }, false},
@@ -126,7 +126,7 @@ TEST_F(FileOp, WithoutRights) {
         }
         _FILE_INFO_tag info;
         EXPECT_EQ(GetFileInfo("closed/file", info), -1);
-        EXPECT_EQ(FSRemove("closed", false), 0);  // what cannot be opened stays
+        EXPECT_EQ(FSRemove("closed", false), 0);  // it cannot be opened, and stays
         EXPECT_EQ(FSRemove("source", false), -3);
         EXPECT_EQ(FSCopy("source", "empty/copy", true), -1);
         EXPECT_EQ(ReadFile("empty/copy"), "source");
@@ -173,7 +173,7 @@ TEST_F(FileOp, LinksTimesAndOwners) {
     EXPECT_EQ(FSCreateSymbolicLink(longest, "new"), 0);
     EXPECT_EQ(FSReadSymbolicLink("new", out), 0);
     EXPECT_EQ(out, longest);
-    // Only root gives a file away.
+    // Only root can change an owner.
     const unsigned uid = geteuid() == 0 ? 65533 : geteuid();
     const unsigned gid = geteuid() == 0 ? 65532 : getegid();
     _FILE_INFO_tag before, after, link;
@@ -183,7 +183,7 @@ TEST_F(FileOp, LinksTimesAndOwners) {
     EXPECT_EQ(GetFileInfo("dir", after), 0);
     EXPECT_TRUE(after == before && after.uid == before.uid);
     EXPECT_EQ(Status("link").st_atime, 1000000001);
-    hooks::g.device = 0xFFFFFFF0;  // the number of a device is 32 bits wide, with a sign
+    hooks::g.device = 0xFFFFFFF0;  // a device number has 32 bits, with a sign
     EXPECT_EQ(GetFileInfo("link", link), 0);
     hooks::g.device = 0;
     EXPECT_TRUE(link.mtime == -5 && link.uid == uid && link.gid == gid && link.dev == -16);

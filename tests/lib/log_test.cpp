@@ -90,7 +90,7 @@ TEST_F(LoggerTest, ALineIsTheLocalTimeAndTheMessage) {
     EXPECT_EQ(ReadFile(log_), "Nov 14 23:13:20 100%\nNov 14 23:13:21 b\nNov 15 06:13:21 c\n");
 }
 
-TEST_F(LoggerTest, LongLinesAreWholeAndCountWhenTheyAreWritten) {
+TEST_F(LoggerTest, LongLinesAreCompleteAndCountOnceWritten) {
     const std::string text(300000, 'x');
     ASSERT_EQ(Open(log_), 0);
     Log(text);

@@ -1,4 +1,4 @@
-// Tests of the temporary names: the key, the stream and its encoding, and many callers.
+// Tests of TmpNameGen: names, threads, and the stream of a key.
 #include "tmp_name_gen.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@
 
 namespace {
 
-TEST(TmpNameGenTest, NamesComeFromTheClock) {
+TEST(TmpNameGenTest, NamesDependOnTheClock) {
     hooks::g.now = 42;  // before the first use
     TmpNameGen& gen = *TmpNameGen::getInstance();
     std::string names;
@@ -34,7 +34,7 @@ TEST(TmpNameGenTest, NamesComeFromTheClock) {
     hooks::Reset();
 }
 
-TEST(TmpNameGenTest, AKeyMakesAStreamAndAnEmptyOneIsFilled) {
+TEST(TmpNameGenTest, AKeyGivesAStreamAndAnEmptyKeyIsFilled) {
     TmpNameGen& gen = *TmpNameGen::getInstance();
     unsigned char key[256] = {'4', '2', '-', '7'}, empty[256] = {}, state[256], out[606];
     gen.rc4_init(state, key);
