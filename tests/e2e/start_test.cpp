@@ -148,7 +148,8 @@ TEST(Launcher, StartsWithoutThreadsProcessesOrAHome) {
         }));
         EXPECT_TRUE(EndedWell(run));
         EXPECT_TRUE(has_home ? WaitFor([&] { return fs::exists(world.User() + "/open"); })
-                             : Contains(run.err, ": failed to create folder: '" + world.App())) << run.err << world.Log();
+                             : Contains(run.err, ": failed to create folder: '" + world.App()))
+            << run.err << world.Log();
     }
 }
 
