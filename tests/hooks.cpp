@@ -63,6 +63,11 @@ Function* Next(const char* name) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
+int OpenAt(int directory, const char* path, int flags) {
+    RunOnce(g.before_openat);
+    return static_cast<int>(syscall(SYS_openat, directory, path, flags));
+}
+
 }  // namespace
 
 // fcntl.h has a struct flock.
@@ -90,10 +95,10 @@ int syncfs(int file) noexcept {
     return static_cast<int>(syscall(SYS_syncfs, file));
 }
 
-int openat(int directory, const char* path, int flags, ...) {
-    RunOnce(g.before_openat);
-    return static_cast<int>(syscall(SYS_openat, directory, path, flags));
-}
+int openat(int directory, const char* path, int flags, ...) { return OpenAt(directory, path, flags); }
+
+// Some compilers call this one in fortified code.
+int __openat64_2(int directory, const char* path, int flags) { return OpenAt(directory, path, flags); }
 
 ssize_t read(int file, void* bytes, size_t size) {
     return syscall(SYS_read, file, bytes, std::min(size, g.most_bytes));

@@ -1,7 +1,9 @@
 // The environment of the application object with X11 or Wayland.
 #include <QAccessible>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
+#include <QImage>
 #include <QOpenGLContext>
 
 #include "platform/desktop/gui-environment.h"
@@ -30,6 +32,8 @@ GuiEnvironment::GuiEnvironment(StartMode mode, const QString& library_path) {
     if (mode >= StartMode::kWithoutSession) {
         environment_.Unset("SESSION_MANAGER");
     }
+    // Painting on several threads waits forever if there can be no more threads.
+    environment_.Set("QT_NO_GUI_THREADPOOL", "1");
     if (mode >= StartMode::kWithoutDisplay) {
         LeaveOutDisplay();
     } else {
@@ -40,8 +44,12 @@ GuiEnvironment::GuiEnvironment(StartMode mode, const QString& library_path) {
 // Qt's own plug-ins first, because the bundle's may have ended the previous attempt.
 void GuiEnvironment::LeaveOutDisplay() {
     environment_.Set(kPlatforms, "offscreen");
-    environment_.Set(kPluginPath, QFile::encodeName(FindPlatformPlugins(
-                                      {PluginsOfQt(), PluginsOfExecutable()}, "offscreen")));
+    const QString plugins =
+        FindPlatformPlugins({PluginsOfQt(), PluginsOfExecutable()}, "offscreen");
+    environment_.Set(kPluginPath, QFile::encodeName(plugins));
+    // Qt 6 searches the library paths before kPluginPath.
+    QCoreApplication::setLibraryPaths(QStringList(QFileInfo(plugins).path()) +
+                                      QCoreApplication::libraryPaths());
 }
 
 void GuiEnvironment::UseDisplay(const QString& library_path) {
@@ -49,6 +57,8 @@ void GuiEnvironment::UseDisplay(const QString& library_path) {
     environment_.Set(kPlatforms, platforms.join(';'));
     // OpenGL libraries take long to load, and a progress bar does not need them.
     environment_.Set("QT_XCB_GL_INTEGRATION", "none");
+    // Qt 6 asks the portal before the display, and a silent bus would look like a silent display.
+    environment_.Set("QT_NO_XDG_DESKTOP_PORTAL", "1");
     const QString plugins = FindPlatformPlugins(
         {library_path, PluginsOfExecutable(), PluginsOfQt()}, platforms.first());
     if (qEnvironmentVariableIsEmpty(kPluginPath) && plugins != library_path + "/platforms") {
@@ -63,6 +73,8 @@ void GuiEnvironment::UseDisplay(const QString& library_path) {
 void GuiEnvironment::Restore() {
     QAccessible::isActive();
     QOpenGLContext::supportsThreadedOpenGL();
+    // Qt reads QT_NO_GUI_THREADPOOL here.
+    static_cast<void>(QImage(1, 1, QImage::Format_RGB32).convertToFormat(QImage::Format_RGBA64));
     fonts_.Wait();
     environment_.Restore();
 }

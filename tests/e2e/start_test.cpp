@@ -133,6 +133,7 @@ TEST(Launcher, StartsInSessionsOfManyKinds) {
 TEST(Launcher, StartsWithoutThreadsProcessesOrAHome) {
     if (getuid() != 0) { GTEST_SKIP() << "needs root to become another user"; }
     for (const rlim_t limit : {1, 2, 3, 4, 4000}) {
+        SCOPED_TRACE(limit);
         const bool has_home = limit != 4000;
         World world;
         // The leak sanitizer needs another process.
@@ -147,7 +148,8 @@ TEST(Launcher, StartsWithoutThreadsProcessesOrAHome) {
         }));
         EXPECT_TRUE(EndedWell(run));
         EXPECT_TRUE(has_home ? WaitFor([&] { return fs::exists(world.User() + "/open"); })
-                             : Contains(run.err, ": failed to create folder: '" + world.App()));
+                             : Contains(run.err, ": failed to create folder: '" + world.App()))
+            << run.err << world.Log();
     }
 }
 
