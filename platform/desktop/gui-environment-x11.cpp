@@ -17,20 +17,17 @@ constexpr char kPlatforms[] = "QT_QPA_PLATFORM";
 constexpr char kPluginPath[] = "QT_QPA_PLATFORM_PLUGIN_PATH";
 constexpr char kSessionBus[] = "DBUS_SESSION_BUS_ADDRESS";
 
-bool HasSessionBus() {
-    return !qEnvironmentVariableIsEmpty(kSessionBus) ||
-           QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus");
-}
-
 }  // namespace
 
 GuiEnvironment::GuiEnvironment(StartMode mode, const QString& library_path) {
+    const bool has_bus = !qEnvironmentVariableIsEmpty(kSessionBus) ||
+                         QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus");
     // Without this, the D-Bus library would start a bus.
-    if (mode >= StartMode::kWithoutSession || !HasSessionBus()) {
+    if (mode >= StartMode::kWithoutSession || !has_bus) {
         environment_.Set(kSessionBus, "disabled:");
     }
     if (mode >= StartMode::kWithoutSession) {
-        environment_.Unset("SESSION_MANAGER");
+        environment_.Set("SESSION_MANAGER", QByteArray());
     }
     // Painting on several threads waits forever if there can be no more threads.
     environment_.Set("QT_NO_GUI_THREADPOOL", "1");

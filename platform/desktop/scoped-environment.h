@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <utility>
 #include <vector>
 
 // Restores the former values. Only while the process has one thread (getenv(3)).
@@ -12,37 +13,22 @@ class ScopedEnvironment {
     ScopedEnvironment(const ScopedEnvironment&) = delete;
     ScopedEnvironment& operator=(const ScopedEnvironment&) = delete;
 
+    // A null `value` removes the variable.
     void Set(const char* name, const QByteArray& value) {
-        Save(name);
-        qputenv(name, value);
-    }
-
-    void Unset(const char* name) {
-        Save(name);
-        qunsetenv(name);
+        former_.emplace_back(name, qgetenv(name));
+        Assign(name, value);
     }
 
     void Restore() {
-        for (const Variable& variable : former_) {
-            if (variable.was_set) {
-                qputenv(variable.name, variable.value);
-            } else {
-                qunsetenv(variable.name);
-            }
+        for (; !former_.empty(); former_.pop_back()) {
+            Assign(former_.back().first, former_.back().second);
         }
-        former_.clear();
     }
 
   private:
-    struct Variable {
-        const char* name;
-        QByteArray value;
-        bool was_set;
-    };
-
-    void Save(const char* name) {
-        former_.push_back({name, qgetenv(name), qEnvironmentVariableIsSet(name)});
+    static void Assign(const char* name, const QByteArray& value) {
+        value.isNull() ? qunsetenv(name) : qputenv(name, value);
     }
 
-    std::vector<Variable> former_;
+    std::vector<std::pair<const char*, QByteArray>> former_;  // null if there was none
 };

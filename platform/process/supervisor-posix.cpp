@@ -61,8 +61,7 @@ void HandleEndingSignals() {
 
 // Forks with the signals blocked, so that the handler always knows the child.
 void Fork() {
-    sigset_t blocked;
-    sigset_t former;
+    sigset_t blocked, former;
     sigemptyset(&blocked);
     sigaddset(&blocked, SIGTERM);
     sigaddset(&blocked, SIGINT);
