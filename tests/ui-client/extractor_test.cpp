@@ -2,6 +2,7 @@
 #include "ui-client/launcher/extractor.h"
 
 #include <QObject>
+#include <QProcess>
 #include <clocale>
 #include <random>
 
@@ -70,7 +71,8 @@ TEST_F(ExtractorTest, WritesReportsAndCounts) {
 TEST_F(ExtractorTest, UnpacksAFileOfMoreThanFourGibibytes) {
     constexpr std::int64_t kSize = (4LL << 30) + 3;
     std::ofstream(home / "large").seekp(kSize - 3) << "end";
-    ASSERT_EQ(std::system(("tar --sparse -C " + home.path() + " -cf " + home.path() + "/archive large").c_str()), 0);
+    const QString directory = QString::fromStdString(home.path());
+    ASSERT_EQ(QProcess::execute("tar", {"--sparse", "-C", directory, "-cf", directory + "/archive", "large"}), 0);
     EXPECT_EQ(ExtractAfresh(), 0);
     EXPECT_EQ(fs::file_size(home / "dest/large"), kSize);
     std::ifstream file(home / "dest/large");
