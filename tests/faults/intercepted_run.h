@@ -13,7 +13,7 @@
 #include <sys/wait.h>
 
 #include <algorithm>
-#include <cstring>
+#include <cstdint>
 
 #include "e2e/harness.h"
 #include "unique-fd.h"
@@ -42,15 +42,21 @@ constexpr struct FileCallNumber {
     What what;
 } kFileCalls[] = {
 #ifdef SYS_open  // not on newer processors
-    {SYS_open, 0, kOpen},        {SYS_stat, 0, kLook},       {SYS_lstat, 0, kLook},        {SYS_access, 0, kLook},
-    {SYS_readlink, 0, kLook},    {SYS_mkdir, 0, kChange},    {SYS_chmod, 0, kChange},      {SYS_symlink, 1, kChange},
-    {SYS_link, 1, kChange},      {SYS_rename, 0, kRename},   {SYS_rmdir, 0, kRemove},      {SYS_unlink, 0, kRemove},
+    {SYS_open, 0, kOpen},      {SYS_stat, 0, kLook},           {SYS_lstat, 0, kLook},       {SYS_access, 0, kLook},
+    {SYS_readlink, 0, kLook},  {SYS_mkdir, 0, kChange},        {SYS_chmod, 0, kChange},     {SYS_symlink, 1, kChange},
+    {SYS_link, 1, kChange},    {SYS_rename, 0, kRename},       {SYS_rmdir, 0, kRemove},     {SYS_unlink, 0, kRemove},
 #endif
-    {SYS_openat, 1, kOpen},      {SYS_newfstatat, 1, kLook}, {SYS_statx, 1, kLook},        {SYS_faccessat, 1, kLook},
-    {SYS_readlinkat, 1, kLook},  {SYS_mkdirat, 1, kChange},  {SYS_renameat, 1, kRename},   {SYS_renameat2, 1, kRename},
-    {SYS_unlinkat, 1, kRemove},  {SYS_read, -1, kLook},      {SYS_lseek, -1, kLook},       {SYS_fstat, -1, kLook},
-    {SYS_getdents64, -1, kLook}, {SYS_write, -1, kWrite},    {SYS_ftruncate, -1, kChange}, {SYS_fchmod, -1, kChange},
-    {SYS_fsync, -1, kChange},    {SYS_syncfs, -1, kFlush}};
+#ifdef SYS_fstatat64  // where a long has 32 bits
+    {SYS_fstatat64, 1, kLook}, {SYS_stat64, 0, kLook},         {SYS_lstat64, 0, kLook},     {SYS_fstat64, -1, kLook},
+    {SYS__llseek, -1, kLook},  {SYS_ftruncate64, -1, kChange},
+#else
+    {SYS_newfstatat, 1, kLook},
+#endif
+    {SYS_openat, 1, kOpen},    {SYS_statx, 1, kLook},          {SYS_faccessat, 1, kLook},   {SYS_readlinkat, 1, kLook},
+    {SYS_mkdirat, 1, kChange}, {SYS_renameat, 1, kRename},     {SYS_renameat2, 1, kRename}, {SYS_unlinkat, 1, kRemove},
+    {SYS_read, -1, kLook},     {SYS_lseek, -1, kLook},         {SYS_fstat, -1, kLook},      {SYS_getdents64, -1, kLook},
+    {SYS_write, -1, kWrite},   {SYS_ftruncate, -1, kChange},   {SYS_fchmod, -1, kChange},   {SYS_fsync, -1, kChange},
+    {SYS_syncfs, -1, kFlush}};
 
 // Starts the interception. Result: the descriptor of the notifications, or -1.
 inline int InstallFilter() {
@@ -82,8 +88,7 @@ inline int Borrow(pid_t process, int fd) {
 inline std::string ReadMemory(pid_t process, __u64 address, std::size_t size) {
     std::string bytes(size, 0);
     const iovec here{bytes.data(), size};
-    iovec there{nullptr, size};
-    std::memcpy(&there.iov_base, &address, sizeof address);
+    const iovec there{reinterpret_cast<void*>(static_cast<std::uintptr_t>(address)), size};
     const ssize_t length = process_vm_readv(process, &here, 1, &there, 1, 0);
     bytes.resize(length < 0 ? 0 : static_cast<std::size_t>(length));
     return bytes;
