@@ -69,8 +69,8 @@ void RegisterConversion(const std::string& name, const char* text) {
 }  // namespace
 
 void RegisterStringRows() {
-    Row(
-        "string-construct", [] { return ustring(kPath); }, [] { return std::string(kPath); });
+    const auto construct = [] { return ustring(kPath); };
+    Row("string-construct", construct, [] { return std::string(kPath); });
     Row(
         "string-copy", [text = ustring(kPath)] { return ustring(text); },
         [text = std::string(kPath)] { return std::string(text); });

@@ -22,15 +22,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const auto& [key, text] : config) {
         // With quotes if necessary. No value needs both kinds.
         const std::string value = text.c_str();
-        const bool plain =
-            value.find_first_of("\"'") != 0 && value.find_first_of(' ') == value.npos;
+        const bool plain = value.find_first_of("\"'") != 0 && value.find_first_of(' ') == value.npos;
         const char* const quote = value.find('"') == value.npos ? "\"" : "'";
-        again +=
-            key.c_str() + ("=" + (plain && !value.empty() ? value : quote + value + quote)) + "\n";
+        again += key.c_str() + ("=" + (plain && !value.empty() ? value : quote + value + quote)) + "\n";
     }
     Config same;
-    if ((result != 0 && !config.empty()) || Read(same, again) != 0 || same != config) {
-        std::abort();
-    }
+    if ((result != 0 && !config.empty()) || Read(same, again) != 0 || same != config) { std::abort(); }
     return 0;
 }

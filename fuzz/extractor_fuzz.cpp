@@ -40,15 +40,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const ssize_t written = write(file.get(), data, size);
     const std::string package = "/proc/self/fd/" + std::to_string(file.get());
     std::string destination = "/dev/shm/quillmere-fuzz-XXXXXX";
-    if (HasLinks(package) || written < 0 || mkdtemp(destination.data()) == nullptr) {
-        return -1;
-    }
+    if (HasLinks(package) || written < 0 || mkdtemp(destination.data()) == nullptr) { return -1; }
     Extractor extractor;
     extractor.m_source = package;
     extractor.m_dest = destination;
     extractor.Extract();
-    if (FSRemove(destination, false) != 0 || access(destination.c_str(), F_OK) == 0) {
-        std::abort();
-    }
+    if (FSRemove(destination, false) != 0 || access(destination.c_str(), F_OK) == 0) { std::abort(); }
     return 0;
 }

@@ -55,7 +55,7 @@ class ustring {
     char const& operator[](unsigned long offset) const { return data[offset]; }
     char& operator[](unsigned long offset) { return data[offset]; }
 
-    void swap(ustring& other);
+    void swap(ustring& other) noexcept;
 
     // Returns at most `n` bytes from `pos`. Throws std::out_of_range("substr") if pos > length().
     ustring substr(unsigned long pos, unsigned long n) const;
@@ -227,7 +227,7 @@ class ustring {
     mutable unsigned long wdata_capacity;  // units of the block
 };
 
-void swap(ustring& a, ustring& b);
+void swap(ustring& a, ustring& b) noexcept;
 
 ustring operator+(ustring const& left, ustring const& right);
 ustring operator+(ustring const& left, char const* right);

@@ -89,7 +89,7 @@ void AppendFill(Unit*& block, unsigned long& length, unsigned long& capacity, Un
 }
 
 void Warn(char const* what, UErrorCode status, int line) {
-    std::cerr << what << static_cast<int>(status) << " at line " << line << std::endl;
+    std::cerr << what << static_cast<int>(status) << " at line " << line << '\n';
 }
 
 // Returns the length of the common beginning, in whole words.
@@ -262,7 +262,7 @@ unsigned short const* ustring::c_str_utf16() const {
     return wdata;
 }
 
-void ustring::swap(ustring& other) {
+void ustring::swap(ustring& other) noexcept {
     std::swap(data, other.data);
     std::swap(data_length, other.data_length);
     std::swap(data_capacity, other.data_capacity);
@@ -271,7 +271,7 @@ void ustring::swap(ustring& other) {
     std::swap(wdata_capacity, other.wdata_capacity);
 }
 
-void swap(ustring& a, ustring& b) {
+void swap(ustring& a, ustring& b) noexcept {
     a.swap(b);
 }
 

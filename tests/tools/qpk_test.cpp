@@ -1,10 +1,4 @@
 // Runs qpk as its users do.
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QRegularExpression>
-#include <set>
-#include <sstream>
-
 #include "e2e/harness.h"
 #include "make_archive.h"
 
@@ -17,43 +11,6 @@ struct Result {
     std::string out;
     std::string err;
 };
-
-// The paragraphs of a section of the manual page: tag and text.
-using Rows = std::vector<std::pair<std::string, std::string>>;
-
-Rows RowsOfManual(const std::string& section) {
-    Rows rows;
-    std::istringstream page(ReadFile(MANUAL));
-    std::string line;
-    while (std::getline(page, line) && line != ".SH " + section) {}
-    while (std::getline(page, line) && line.rfind(".SH ", 0) != 0) {
-        line.erase(std::remove(line.begin(), line.end(), '\\'), line.end());
-        if (line == ".TP") {
-            std::getline(page, line);
-            line.erase(std::remove(line.begin(), line.end(), '\\'), line.end());
-            rows.emplace_back(line.substr(std::string(".B ").size()), "");
-        } else if (!rows.empty()) {
-            rows.back().second += line;
-        }
-    }
-    return rows;
-}
-
-std::set<std::string> TagsOfManual(const std::string& section) {
-    std::set<std::string> tags;
-    for (const auto& row : RowsOfManual(section)) { tags.insert(row.first); }
-    return tags;
-}
-
-// All captures of a pattern in a text.
-std::vector<std::string> Captures(const std::string& text, const char* pattern) {
-    std::vector<std::string> captures;
-    const QRegularExpression expression(pattern, QRegularExpression::MultilineOption);
-    for (auto match = expression.globalMatch(QString::fromStdString(text)); match.hasNext();) {
-        captures.push_back(match.next().captured(1).toStdString());
-    }
-    return captures;
-}
 
 class QpkTest : public testing::Test {
   protected:
@@ -73,40 +30,6 @@ class QpkTest : public testing::Test {
 
     const TempDir dir_;
 };
-
-TEST_F(QpkTest, ManualPageListsTheWholeInterface) {
-    const Rows messages{
-#define QPK_MESSAGE(name, exit_code, wrong, remedy) {#exit_code ": " wrong, remedy},
-#include "tools/qpk/messages.inc"
-#undef QPK_MESSAGE
-    };
-    EXPECT_EQ(RowsOfManual("MESSAGES"), messages);
-    const std::vector<std::string> commands = Captures(Shell("$Q --help").out, "^  (\\w+)");
-    EXPECT_EQ(TagsOfManual("COMMANDS"), std::set<std::string>(commands.begin(), commands.end()));
-    std::map<std::string, std::string> rows;  // an option, and the commands that have it
-    for (const std::string& command : commands) {
-        for (std::string option : Captures(Shell("$Q " + command + " --help").out, "^  (-.*?)(?:  |$)")) {
-            option.erase(std::remove_if(option.begin(), option.end(), [](char c) { return c == '<' || c == '>'; }),
-                         option.end());
-            std::string& row = rows[option];
-            row += (row.empty() ? "" : " ") + command;
-        }
-    }
-    std::set<std::string> options;
-    for (const auto& row : rows) { options.insert(row.second + ": " + row.first); }
-    EXPECT_EQ(TagsOfManual("OPTIONS"), options);
-    EXPECT_EQ(Shell("$Q make c -o p --build 7").exit_code, 0);
-    const QStringList keys =
-        QJsonDocument::fromJson(QByteArray::fromStdString(Shell("$Q info --json p").out)).object().keys();
-    std::set<std::string> names;
-    for (const QString& key : keys) { names.insert(key.toStdString()); }
-    EXPECT_EQ(TagsOfManual("KEYS"), names);
-    const std::vector<std::string> lines = Captures(Shell("$Q info p").out, "^(\\w+):");
-    EXPECT_EQ(std::set<std::string>(lines.begin(), lines.end()), names);
-    EXPECT_EQ(Shell("$Q info p | sed -n 's/^unpacked: //p'").out, Shell("tar --zstd -xOf p | wc -c").out);
-    EXPECT_EQ(Shell("$Q info p | sed -n 's/^entries: //p'").out, Shell("tar --zstd -tf p | wc -l").out);
-    EXPECT_EQ(TagsOfManual("EXIT STATUS"), (std::set<std::string>{"0", "1", "2", "3"}));
-}
 
 TEST_F(QpkTest, WrongUsage) {
     const std::string range = ", which is not a number from ";
@@ -233,6 +156,8 @@ TEST_F(QpkTest, CheckFindsTheFaultsOfOtherPackers) {
         EXPECT_TRUE(Contains(run.err, package.second)) << package.first << "\n" << run.err;
     }
     EXPECT_TRUE(Contains(Shell("$Q info good --json").out, "\"build_version\": \"7\""));
+    EXPECT_EQ(Shell("$Q info good | sed -n 's/^unpacked: //p'").out, Shell("tar -xzOf good | wc -c").out);
+    EXPECT_EQ(Shell("$Q info good | sed -n 's/^entries: //p'").out, Shell("tar -tf good | wc -l").out);
     EXPECT_EQ(Shell("$Q check nothing").err,
               "qpk: nothing: cannot be read: No such file or directory: check the path and its permissions\n");
     EXPECT_EQ(Shell("$Q check nothing").exit_code, 3);

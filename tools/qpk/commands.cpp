@@ -119,8 +119,8 @@ std::int64_t Number(const std::string& subject, const std::string& text, std::in
 }
 
 std::optional<VersionInfo> ReadVersion(const Parser& parser) {
-    const VersionInfo version{PlainValue(parser, "major"), PlainValue(parser, "minor"),
-                              parser.Value("build"), PlainValue(parser, "icon-overlay")};
+    VersionInfo version{PlainValue(parser, "major"), PlainValue(parser, "minor"),
+                        parser.Value("build"), PlainValue(parser, "icon-overlay")};
     if (parser.IsSet("build")) {
         Number("--build", version.build_version, 0, kHighestBuild);
         return version;
