@@ -165,7 +165,8 @@ class Faults : public testing::TestWithParam<Scenario> {
         const std::vector<std::string> places{world_.User(), resources + "INFO", resources + "package",
                                               "/proc/self/fd/"};
         const int ended = RunIntercepted(world_, places, [&](const FileCall& call) {
-            const bool hit = ++calls_ == at || (calls_ > at && fault.at_later_calls);
+            ++calls_;
+            const bool hit = calls_ == at || (calls_ > at && fault.at_later_calls);
             const bool fit = fault.answer != kHalfOfTheWrite || call.what == kWrite;
             if (hit) { Happen(fault.event); }
             return hit && fit && fault.answer != kGoOn ? fault.answer : Note(call);
@@ -179,9 +180,8 @@ class Faults : public testing::TestWithParam<Scenario> {
         const bool killed = fault.answer == kKillBoth && calls_ >= at;
         EXPECT_EQ(ended, killed ? -1 : 0);
         LosePower(fault.power);
-        const bool opens =
-            !killed && fault.event != kHomeIsLost && !(fault.answer == kKillLauncher && fault.at_later_calls);
-        CheckCopies(opens);
+        const bool each_attempt_dies = fault.answer == kKillLauncher && fault.at_later_calls;
+        CheckCopies(!killed && !each_attempt_dies && fault.event != kHomeIsLost);
         if (fault.answer == kKillLauncher && !fault.at_later_calls && at > 0) { CheckRestart(); }
     }
 
