@@ -50,11 +50,7 @@ int WriteAll(int file, char const* bytes, ssize_t size) {
 }
 
 int CopyBytes(int from, int to) {
-    // Kept for the thread's next file: allocating it takes as long as copying a small file.
-    thread_local MallocPtr<char> buffer;
-    if (!buffer) {
-        buffer.reset(static_cast<char*>(std::malloc(kCopyBuffer)));
-    }
+    const MallocPtr<char> buffer(static_cast<char*>(std::malloc(kCopyBuffer)));
     if (!buffer) {
         const int error = errno;
         Logger::LogMsg(LOG_LINE(ERROR, "FSCopy: malloc(%d): %s (%d)\n"), kCopyBuffer,

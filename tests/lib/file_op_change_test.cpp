@@ -5,7 +5,6 @@
 #include <cerrno>
 #include <climits>
 #include <cstring>
-#include <thread>
 
 #include "file_op_support.h"
 
@@ -61,22 +60,6 @@ TEST_F(FileOp, Copy) {
     EXPECT_FALSE(fs::is_symlink("to-file")) << "the link is the source that goes";
     EXPECT_TRUE(fs::is_symlink("dangling"));
     EXPECT_EQ(ReadFile("file"), "content");
-}
-
-TEST_F(FileOp, CopiesInSeveralThreads) {
-    constexpr int kThreads = 4;
-    hooks::g.most_bytes = 1000;
-    std::thread threads[kThreads];
-    for (int number = 0; number < kThreads; ++number) {
-        const std::string name = std::to_string(number);
-        WriteFile(at_ / name, std::string(2000000, name[0]));
-        threads[number] = std::thread([name] { EXPECT_EQ(FSCopy(name, name + "copy", false), 0); });
-    }
-    for (std::thread& thread : threads) { thread.join(); }
-    hooks::Reset();
-    for (const char* const name : {"0", "1", "2", "3"}) {
-        EXPECT_TRUE(ReadFile(name) == ReadFile(name + "copy"s)) << name;
-    }
 }
 
 // A failed move changes nothing.
