@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <utility>
 
 namespace hooks {
@@ -53,9 +54,8 @@ int Fail(int error) {
     return -1;
 }
 
-bool IsZero(const void* bytes, size_t size) {
-    const char* const begin = static_cast<const char*>(bytes);
-    return std::all_of(begin, begin + size, [](char c) { return c == 0; });
+bool IsZero(const char* bytes, size_t size) {
+    return size > 0 && *bytes == 0 && std::memcmp(bytes, bytes + 1, size - 1) == 0;
 }
 
 template <class Function>
@@ -105,7 +105,7 @@ ssize_t read(int file, void* bytes, size_t size) {
 }
 
 ssize_t write(int file, const void* bytes, size_t size) {
-    if (g.leave_holes && IsZero(bytes, size)) {
+    if (g.leave_holes && IsZero(static_cast<const char*>(bytes), size)) {
         return lseek(file, static_cast<off_t>(size), SEEK_CUR) < 0 ? -1 : static_cast<ssize_t>(size);
     }
     return g.write_error != 0

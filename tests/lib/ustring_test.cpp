@@ -156,7 +156,7 @@ void TestSearches(std::string const& text, std::string const& set, Needle const&
     SCOPED_TRACE(testing::Message() << "'" << set << "' in '" << text << "' from " << pos);
     const ustring s(text);
     const bool within = pos < text.size();
-    const unsigned long last = std::min(pos, text.size() - 1);
+    const unsigned long last = std::min<unsigned long>(pos, text.size() - 1);
     EXPECT_EQ(s.find(needle, pos), within ? text.find(set, pos) : kNone);
     EXPECT_EQ(s.find_first_of(needle, pos), text.find_first_of(set, pos));
     EXPECT_EQ(s.find_first_not_of(needle, pos), within ? text.find_first_not_of(set, pos) : kNone);
