@@ -13,7 +13,8 @@ function(quillmere_harden target)
   if(QUILLMERE_SANITIZE)
     return()
   endif()
-  # The last two are for one processor family each.
+  # The last two are for one processor family each; some compilers only warn about them.
+  set(CMAKE_REQUIRED_FLAGS -Werror)
   foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection -mbranch-protection=standard)
     string(MAKE_C_IDENTIFIER QUILLMERE_HAS${flag} known)
     check_cxx_compiler_flag(${flag} ${known})

@@ -1,5 +1,6 @@
 // What the sanitizers must know of libraries that are not built with them.
 extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __tsan_default_options();
 extern "C" const char* __tsan_default_suppressions();
 
 // Qt's platform plug-ins, fontconfig and D-Bus keep what they have allocated until the process
@@ -13,19 +14,20 @@ extern "C" const char* __lsan_default_suppressions() {
            "leak:libfontconfig\n";
 }
 
-// Qt hands queued calls and their arguments from thread to thread under locks that are not seen, in
-// lists that it moves and frees. Of most functions only the innermost counts, so that races in what
-// these calls lead to are still reported.
+// Qt passes queued calls and their arguments from thread to thread under locks that the sanitizer
+// does not see, and frees them in these functions.
 extern "C" const char* __tsan_default_suppressions() {
     return "race:Notify_Adapter::Update\n"
            "race:Worker::sig\n"
            "race:QMetaType::destroy\n"
+           "race:QObject::~QObject\n"
            "race:QWaitCondition\n"
-           "race_top:free\n"
-           "race_top:memcmp\n"
-           "race_top:memcpy\n"
-           "race_top:memmove\n"
-           "race_top:write\n"
+           "race_top:QCoreApplicationPrivate::sendPostedEvents\n"
            "race_top:operator delete\n"
            "race_top:qt_static_metacall\n";
+}
+
+// By default exit(3) waits a second, in which the worker goes on.
+extern "C" const char* __tsan_default_options() {
+    return "atexit_sleep_ms=0";
 }
