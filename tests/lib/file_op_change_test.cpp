@@ -209,8 +209,8 @@ TEST_F(FileOp, MakeDirectories) {
     EXPECT_EQ(FSMKDirP("exact/x", nullptr, false, 0773), 0);
     EXPECT_EQ(FSMKDirP("socket/x", nullptr, false, 0773), -1);
     EXPECT_EQ(umask(former), 027u);
-    EXPECT_TRUE(Status("masked").st_mode == 040750 && Status("masked/x").st_mode == 040750);
-    EXPECT_TRUE(Status("exact").st_mode == 040773 && Status("exact/x").st_mode == 040773);
+    for (Text name : {"masked", "masked/x"}) { EXPECT_EQ(Status(name).st_mode, 040750u) << name; }
+    for (Text name : {"exact", "exact/x"}) { EXPECT_EQ(Status(name).st_mode, 040773u) << name; }
 }
 
 // With and without log lines for each entry.

@@ -18,7 +18,9 @@ TEST_F(FileOp, TextsAndComparisons) {
         EXPECT_EQ(FSIsParentFolder("/a", child), child[1] == 'a' && child[2] != 'b') << child;
     }
     EXPECT_FALSE(FSIsParentFolder("/a/", "/a/b"));
-    EXPECT_TRUE(FSTimeEqual(5, 5) && !FSTimeEqual(5, 6) && !FSTimeEqual(6, 5));
+    EXPECT_TRUE(FSTimeEqual(5, 5));
+    EXPECT_FALSE(FSTimeEqual(5, 6));
+    EXPECT_FALSE(FSTimeEqual(6, 5));
     const _FILE_INFO_tag info;
     _FILE_INFO_tag owner, path, name, type, mtime, size, exists;
     owner.uid = owner.gid = owner.mode = 1;
@@ -71,7 +73,8 @@ void TestProbes(const TempDir& at) {
         EXPECT_EQ(FSGetRealPath(text), leads_somewhere ? 0 : -1);
         EXPECT_EQ(text, leads_somewhere ? fs::canonical(path).string() : path);
     }
-    EXPECT_TRUE(IsFileExist(at / "dir/" + kDecomposed, true) && IsFileExist("/dev", true));
+    EXPECT_TRUE(IsFileExist(at / "dir/" + kDecomposed, true));
+    EXPECT_TRUE(IsFileExist("/dev", true));
     for (const std::string& path : {"missing"s, "missing\xff"s, ""s, kNotUtf8, longest + "a"}) {
         SCOPED_TRACE(path);
         _FILE_INFO_tag info{"", "", 99, 0, 0, true};
@@ -186,7 +189,7 @@ TEST_F(FileOp, LinksTimesAndOwners) {
     hooks::g.device = 0xFFFFFFF0;  // a device number has 32 bits, with a sign
     EXPECT_EQ(GetFileInfo("link", link), 0);
     hooks::g.device = 0;
-    EXPECT_TRUE(link.mtime == -5 && link.uid == uid && link.gid == gid && link.dev == -16);
+    EXPECT_EQ(std::tie(link.mtime, link.uid, link.gid, link.dev), std::make_tuple(-5l, uid, gid, -16));
     EXPECT_EQ(FSUTime("missing", 1, 1), -1);
 }
 
@@ -199,8 +202,9 @@ TEST_F(FileOp, KindsOfVolumes) {
         hooks::g.volume_type = type;
         EXPECT_EQ(isMountPoint("."), network) << type;
         EXPECT_EQ(IsMSDOS("."), msdos) << type;
-        EXPECT_FALSE(isMountPoint("missing") || IsMSDOS("missing"));
     }
+    EXPECT_FALSE(isMountPoint("missing"));
+    EXPECT_FALSE(IsMSDOS("missing"));
 }
 
 int ReadWithoutDescriptor() {

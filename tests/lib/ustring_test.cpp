@@ -132,7 +132,8 @@ TEST(UstringConversionTest, ConvertsBothWaysAndNormalizes) {
     EXPECT_EQ(Text(ustring("a") += static_cast<unsigned short>(0x80)), "a\u0080");
     EXPECT_EQ(Text(units), "aé漢😀");
     EXPECT_EQ(Utf16("aé漢😀"), u"aé漢😀");
-    EXPECT_TRUE(ustring::is_valid("aé漢😀") && ustring::is_valid(""));
+    EXPECT_TRUE(ustring::is_valid("aé漢😀"));
+    EXPECT_TRUE(ustring::is_valid(""));
     // Marks in another order, a syllable, and a ligature, which has no composed form.
     const ustring source("e\u0301 \u00E9 \u00E2\u0323 \uAC01 \uFB01");
     const ustring decomposed = source.normalize(ustring::NFD);
@@ -182,11 +183,14 @@ TEST(UstringSearchTest, FindsWhatAStdStringFinds) {
 TEST(UstringSearchTest, StopsAtANulInsideTheText) {
     ustring s("ab-cd");
     s[2] = '\0';
-    EXPECT_TRUE(s.find('c', 0) == kNone && s.find_first_of('c', 0) == kNone);
+    EXPECT_EQ(s.find('c', 0), kNone);
+    EXPECT_EQ(s.find_first_of('c', 0), kNone);
     EXPECT_EQ(s.rfind('c', kNone), 3u);
     s.append('\0', 3);
     EXPECT_EQ(s.length(), 8u);
-    EXPECT_TRUE(s == "ab" && s.compare("ab", 9) == 0 && Text(ustring(s)) == "ab");
+    EXPECT_TRUE(s == "ab");
+    EXPECT_EQ(s.compare("ab", 9), 0);
+    EXPECT_EQ(Text(ustring(s)), "ab");
     EXPECT_EQ(Utf16(s), u"ab");
     ustring other("ab");
     other.append('\0', 6).append("hidden");
@@ -208,9 +212,12 @@ TEST(UstringCompareTest, ReturnsTheDifferenceOfTheFirstDifferentBytes) {
         EXPECT_EQ(a.compare(b), difference);
         EXPECT_EQ(ustring::compare(b, a, false), -difference);
         EXPECT_EQ(ustring::compare(a, b, true), folded);
-        EXPECT_TRUE((a == b) == (difference == 0) && (a != b) == (difference != 0));
-        EXPECT_TRUE((a < b) == (difference < 0) && (a >= b) == (difference >= 0));
-        EXPECT_TRUE((a > b) == (difference > 0) && (a <= b) == (difference <= 0));
+        EXPECT_EQ(a == b, difference == 0);
+        EXPECT_EQ(a != b, difference != 0);
+        EXPECT_EQ(a < b, difference < 0);
+        EXPECT_EQ(a >= b, difference >= 0);
+        EXPECT_EQ(a > b, difference > 0);
+        EXPECT_EQ(a <= b, difference <= 0);
     }
     EXPECT_EQ(ustring("abc").compare("abd", 2), 0);
     EXPECT_EQ(ustring("abc").compare("abd", 3), -1);
