@@ -189,7 +189,7 @@ TEST_F(FileOp, LinksTimesAndOwners) {
     hooks::g.device = 0xFFFFFFF0;  // a device number has 32 bits, with a sign
     EXPECT_EQ(GetFileInfo("link", link), 0);
     hooks::g.device = 0;
-    EXPECT_EQ(std::tie(link.mtime, link.uid, link.gid, link.dev), std::make_tuple(-5l, uid, gid, -16));
+    EXPECT_EQ(std::tie(link.mtime, link.uid, link.gid, link.dev), std::make_tuple(-5L, uid, gid, -16));
     EXPECT_EQ(FSUTime("missing", 1, 1), -1);
 }
 
