@@ -1,4 +1,4 @@
-// The strict line parser behind Config.
+// The strict line parser of Config.
 #include "config.h"
 
 #include <cstdio>
