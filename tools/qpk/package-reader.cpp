@@ -116,23 +116,24 @@ class PackageReader {
     }
 
     bool Next(archive_entry** header) {
-        return IsRead(archive_read_next_header(reader_.get(), header));
+        return RecordDamage(archive_read_next_header(reader_.get(), header));
     }
 
     // Skips the data, except the beginning of INFO.
     bool Skip() {
         if (!facts_.info_is_last) {
-            return IsRead(archive_read_data_skip(reader_.get()));
+            return RecordDamage(archive_read_data_skip(reader_.get()));
         }
         std::string info(kLargestInfo, 0);
         const la_ssize_t size = archive_read_data(reader_.get(), &info[0], info.size());
         info.resize(static_cast<std::size_t>(std::max<la_ssize_t>(size, 0)));
         facts_.info = info;
-        return IsRead(size < 0 ? static_cast<int>(size) : ARCHIVE_OK);
+        return RecordDamage(size < 0 ? static_cast<int>(size) : ARCHIVE_OK);
     }
 
-    // The launcher treats a warning as a failure.
-    bool IsRead(int result) {
+    // A warning is damage, because the launcher treats it as a failure. Returns whether reading can
+    // go on.
+    bool RecordDamage(int result) {
         if (result != ARCHIVE_OK && result != ARCHIVE_EOF) {
             facts_.damage = ErrorText(reader_.get());
         }
