@@ -360,6 +360,7 @@ TEST(Starts, UnderALimitOfTheSizeOfAFile) {
     const auto start = world.Spawn([&] { setrlimit(RLIMIT_FSIZE, &limit); });
     EXPECT_TRUE(world.Finish(*start).normal);
     EXPECT_EQ(KindOf(world.App()), "old");
+    EXPECT_FALSE(Contains(world.Log(), "[WARNING]")) << "a signal ended the working process";
 }
 
 INSTANTIATE_TEST_SUITE_P(In, Faults, testing::ValuesIn(kScenarios),
