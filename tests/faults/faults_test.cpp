@@ -40,11 +40,14 @@ const std::map<std::string, PackageEntries> kKinds{{"old", Client('1')},
 
 using User = std::map<std::string, std::string>;  // kinds of directories by name
 
-std::string Backup(int index) { return std::string(kApp) + "_tmp" + (index == 0 ? "" : std::to_string(index)); }
+// The names of backups, in the order in which an upgrade tries them.
+const char* const kBackups[] = {"Quillmere.app_tmp",  "Quillmere.app_tmp1", "Quillmere.app_tmp2", "Quillmere.app_tmp3",
+                                "Quillmere.app_tmp4", "Quillmere.app_tmp5", "Quillmere.app_tmp6", "Quillmere.app_tmp7",
+                                "Quillmere.app_tmp8", "Quillmere.app_tmp9"};
 
 User TenNames() {
     User user{{kApp, "old"}};
-    for (int index = 0; index < 10; ++index) { user[Backup(index)] = "somebody's"; }
+    for (const char* const backup : kBackups) { user[backup] = "somebody's"; }
     return user;
 }
 
@@ -60,17 +63,17 @@ const struct Scenario {
     {"FirstInstall", {}, kGood, {{kApp, "new"}}, "new"},
     {"Upgrade", {{kApp, "old"}}, kGood, {{kApp, "new"}}, "new"},
     {"UpgradeOverLeftovers",
-     {{kApp, "no version"}, {Backup(0), "old"}, {Backup(7), "somebody's"}},
+     {{kApp, "no version"}, {kBackups[0], "old"}, {kBackups[7], "somebody's"}},
      kGood,
-     {{kApp, "new"}, {Backup(7), "somebody's"}},
+     {{kApp, "new"}, {kBackups[7], "somebody's"}},
      "new"},
-    {"CurrentCopy", {{kApp, "new"}, {Backup(0), "old"}}, kGood, {{kApp, "new"}, {Backup(0), "old"}}, "new"},
+    {"CurrentCopy", {{kApp, "new"}, {kBackups[0], "old"}}, kGood, {{kApp, "new"}, {kBackups[0], "old"}}, "new"},
     {"TenNamesTaken", TenNames(), kGood, TenNames(), "old"},
     {"DamagedPackage", {{kApp, "old"}}, kCutShort, {{kApp, "old"}}, "old"},
     {"DamagedAfterAnInterruption",
-     {{kApp, "no version"}, {Backup(0), "old"}},
+     {{kApp, "no version"}, {kBackups[0], "old"}},
      kCutShort,
-     {{kApp, "no version"}, {Backup(0), "old"}},
+     {{kApp, "no version"}, {kBackups[0], "old"}},
      ""},
     {"OverQuota", {{kApp, "old"}}, kOverQuota, {{kApp, "old"}}, ""},
 };
@@ -212,7 +215,7 @@ class Faults : public testing::TestWithParam<Scenario> {
         const std::string& whole = GetParam().whole;
         EXPECT_TRUE(whole.empty() ? now[kApp] != "torn" : now[kApp] == whole) << now[kApp];
         if (whole == "new") {
-            EXPECT_EQ(now.count(Backup(0)), GetParam().after.count(Backup(0))) << "a backup is left";
+            EXPECT_EQ(now.count(kBackups[0]), GetParam().after.count(kBackups[0])) << "a backup is left";
         }
     }
 
