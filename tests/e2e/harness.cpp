@@ -111,7 +111,7 @@ Outcome World::Finish(QProcess& process) const {
     timer.start();
     const bool ended = process.waitForFinished(60000);
     return {process.exitCode(), ended && process.exitStatus() == QProcess::NormalExit, timer.elapsed(),
-            process.readAllStandardOutput().toStdString(), process.readAllStandardError().toStdString()};
+            process.readAllStandardError().toStdString()};
 }
 
 pid_t World::ClientPid() const {

@@ -26,7 +26,6 @@ struct Outcome {
     int exit_code = -1;
     bool normal = false;  // exited, not killed by a signal
     qint64 milliseconds = 0;
-    std::string out;
     std::string err;
 };
 
