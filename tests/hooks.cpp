@@ -65,7 +65,7 @@ Function* Next(const char* name) {
 }
 
 int OpenAt(int directory, const char* path, int flags) {
-    RunOnce(g.before_openat);
+    if (g.before_openat && g.openat_calls_before-- == 0) { RunOnce(g.before_openat); }
     return static_cast<int>(syscall(SYS_openat, directory, path, flags));
 }
 
@@ -124,12 +124,6 @@ int statfs(const char* path, struct statfs* volume) noexcept {
     static auto* const next = Next<int(const char*, struct statfs*)>("statfs64");
     const int result = next(path, volume);
     if (g.volume_type != 0) { volume->f_type = static_cast<decltype(volume->f_type)>(g.volume_type); }
-    return result;
-}
-
-int lstat(const char* path, struct stat* status) noexcept {
-    const int result = fstatat(AT_FDCWD, path, status, AT_SYMLINK_NOFOLLOW);
-    if (g.device != 0) { status->st_dev = g.device; }
     return result;
 }
 

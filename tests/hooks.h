@@ -17,13 +17,13 @@ struct Hooks {
     bool leave_holes = false;  // write(2) skips blocks of zeros
     int fsync_error = 0;
     unsigned long volume_type = 0;  // statfs(2)
-    dev_t device = 0;               // lstat(2)
     std::time_t now = 0;            // time(2), gettimeofday(2)
     // Run once, before the next call.
     std::function<void()> before_flock;
     std::function<void()> before_fsync;
     std::function<void()> before_mutex_init;
     std::function<void()> before_openat;
+    int openat_calls_before = 0;
     std::function<void()> before_readlink;
     // Counts since Reset.
     int fsyncs = 0;

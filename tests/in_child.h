@@ -28,5 +28,6 @@ void InChild(Prepare prepare, Body body) noexcept {
     EXPECT_EQ(status, 0);
 }
 
-// For InChild: becomes a user who owns nothing. Does nothing if this user is not root.
-inline bool BecomeNobody() { return geteuid() != 0 || !(setgroups(0, nullptr) || setgid(65534) || setuid(65534)); }
+// A user without files and processes. A child process of root becomes that user.
+inline const uid_t kLoner = 100000 + static_cast<uid_t>(getpid());
+inline bool BecomeLoner() { return geteuid() != 0 || !(setgroups(0, nullptr) || setgid(kLoner) || setuid(kLoner)); }

@@ -54,8 +54,7 @@ void Desktop::KillWindowManager() {
     manager_.waitForFinished();
 }
 
-SlowPackage::SlowPackage(const World& world)
-    : path_(world.Bundle() + "/Contents/Resources/package/quillmere.qpk"), package_(ReadFile(path_)) {
+SlowPackage::SlowPackage(const World& world) : path_(world.Package()), package_(ReadFile(path_)) {
     fs::remove(path_);
     EXPECT_EQ(mkfifo(path_.c_str(), S_IRUSR | S_IWUSR), 0);
 }

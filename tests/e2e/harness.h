@@ -9,9 +9,10 @@
 #include <functional>
 #include <map>
 
+#include "in_child.h"
 #include "temp_dir.h"
 
-// Paths and contents of a package, in order. The path of a directory ends with "/".
+// Paths and contents of a package, in order.
 using PackageEntries = std::vector<std::pair<std::string, std::string>>;
 
 // A client that writes its pid file and exits on SIGTERM, except with --ignore-sigterm.
@@ -23,8 +24,7 @@ PackageEntries ClientPackage(int build, const PackageEntries& extra = {}, const 
 std::string Pack(const PackageEntries& entries);
 
 struct Outcome {
-    int exit_code = -1;
-    bool normal = false;  // exited, not killed by a signal
+    int exit_code = -1;  // -1 if a signal ended it
     qint64 milliseconds = 0;
     std::string err;
 };
@@ -62,6 +62,7 @@ class World {
     std::string Client() const { return App() + "/Contents/MacOS/quillmere-ui"; }
     std::string Bundle() const { return dir / "Quillmere Drive.app"; }
     std::string Plugins() const { return Bundle() + "/Contents/Frameworks/plugins"; }
+    std::string Package() const { return Bundle() + "/Contents/Resources/package/quillmere.qpk"; }
     std::string LauncherPath() const { return Bundle() + "/Contents/MacOS/launcher"; }
     std::string Log() const { return ReadFile(User() + "/log/launcher.log"); }
     // The build number of the installed copy, or "".
@@ -88,7 +89,3 @@ pid_t LauncherOf(const QProcess& start);
 void KillStart(QProcess& start);
 // Kills a process and waits until it is gone.
 void Kill(pid_t pid);
-
-// A user id without files and processes. A child process of root becomes that user.
-extern const uid_t kLoner;
-void BecomeLoner();

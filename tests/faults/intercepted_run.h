@@ -31,7 +31,6 @@ enum : int {
     kGoOn = 0,
     kKillBoth,      // both processes, before the call
     kKillLauncher,  // the working process, before the call
-    kHalfOfTheWrite,
     kSuccessWithoutIt
 };
 
@@ -84,20 +83,18 @@ inline int Borrow(pid_t process, int fd) {
     return static_cast<int>(syscall(SYS_pidfd_getfd, handle.get(), fd, 0));
 }
 
-// May return less than `size`.
-inline std::string ReadMemory(pid_t process, __u64 address, std::size_t size) {
-    std::string bytes(size, 0);
-    const iovec here{bytes.data(), size};
-    const iovec there{reinterpret_cast<void*>(static_cast<std::uintptr_t>(address)), size};
-    const ssize_t length = process_vm_readv(process, &here, 1, &there, 1, 0);
-    bytes.resize(length < 0 ? 0 : static_cast<std::size_t>(length));
-    return bytes;
+// A text that ends with a NUL, or with the memory.
+inline std::string ReadText(pid_t process, __u64 address) {
+    char text[4097] = {};
+    const iovec here{text, sizeof text - 1};
+    const iovec there{reinterpret_cast<void*>(static_cast<std::uintptr_t>(address)), here.iov_len};
+    return process_vm_readv(process, &here, 1, &there, 1, 0) < 0 ? "" : text;
 }
 
 inline FileCall Describe(pid_t process, const seccomp_data& data) {
     const auto call = std::find_if(std::begin(kFileCalls), std::end(kFileCalls),
                                    [&](auto& row) { return static_cast<int>(row.number) == data.nr; });
-    std::string path = call->path < 0 ? "" : ReadMemory(process, data.args[call->path], 4096).c_str();
+    std::string path = call->path < 0 ? "" : ReadText(process, data.args[call->path]);
     if (path.empty() || path[0] != '/') {  // relative to a directory descriptor
         std::error_code none;
         const std::string fd = std::to_string(static_cast<int>(data.args[0]));
@@ -106,13 +103,6 @@ inline FileCall Describe(pid_t process, const seccomp_data& data) {
     }
     const bool makes = call->what == kOpen && (data.args[call->path + 1] & O_CREAT) != 0;
     return {makes ? kMake : call->what, path};
-}
-
-// Writes the first half instead of the program. Result: the number of bytes, or -1.
-inline ssize_t WriteHalf(pid_t process, const seccomp_data& data) {
-    const UniqueFd file(Borrow(process, static_cast<int>(data.args[0])));
-    const std::string bytes = ReadMemory(process, data.args[1], (data.args[2] + 1) / 2);
-    return write(file.get(), bytes.data(), bytes.size());
 }
 
 // Runs a start until its processes and their children have ended, at most a minute. Calls `answer` for their calls
@@ -149,10 +139,7 @@ inline int RunIntercepted(const World& world, const std::vector<std::string>& pl
         seccomp_notif_resp response{};
         response.id = request.id;
         response.error = std::min(decision, 0);
-        if (decision == kHalfOfTheWrite && call.what == kWrite) {
-            response.val = WriteHalf(ProcessOf(caller), request.data);
-        }
-        const bool done = response.error != 0 || response.val != 0 || decision == kSuccessWithoutIt;
+        const bool done = response.error != 0 || decision == kSuccessWithoutIt;
         response.flags = done ? 0 : SECCOMP_USER_NOTIF_FLAG_CONTINUE;
         ioctl(listener.get(), SECCOMP_IOCTL_NOTIF_SEND, &response);
     }

@@ -14,13 +14,11 @@ TEST_F(FileOp, Copy) {
     WriteFile(at_ / "longer", "much longer than the content");
     fs::create_symlink("file", "to-file");
     const struct {
-        const char* from;
-        const char* to;
+        const char *from, *to;
         bool remove;
         int result;
         std::size_t most_bytes = SIZE_MAX;
-        int write_error = 0;
-        int flush_error = 0;
+        int write_error = 0, flush_error = 0;
     } rows[] = {
         {"file", "longer", false, 0, 9999},
         {"to-file", "2", false, 0, 3},
@@ -99,81 +97,56 @@ TEST_F(FileOp, RenameAcrossVolumes) {
         for (Text name : {"a/1", "a/2", "a/3", "a/4", "a/tree/sub/x", "a/tree/.hidden", "b/old"}) {
             WriteFile(name, name);
         }
-        const Rows<Text, Text> links = {{"no", "a/link"},
-                                        {"no", "a/tree/link"},
-                                        {"no", "b/dangling"},
-                                        {"tree", "a/to-dir"},
-                                        {"../a/2", "b/to-source"}};
-        for (const auto& [text, name] : links) { fs::create_symlink(text, name); }
+        for (Text name : {"a/link", "a/tree/link", "b/dangling"}) { fs::create_symlink("no", name); }
+        fs::create_symlink("tree", "a/to-dir");
+        fs::create_symlink("../a/2", "b/to-source");
         fs::create_directory("b/dir");
         for (Text name : {"a/fifo", "a/tree/fifo", "b/hangs"}) {
             mkfifo(name, 0600);
             chmod(name, 02666);
         }
         const Rows<Text, Text, int> rows = {
-            {"a/to-dir", "b/new", 0},    {"a/tree", "b/old", -3},   {"a/1", "b/dir", -3},     {"a/link", "b/dir", -3},
-            {"a/1", "b/old", 0},         {"a/2", "b/to-source", 0}, {"a/3", "b/dangling", 0}, {"a/link", "b/old", 0},
-            {"a/fifo", "b/new-fifo", 0}, {"a/4", "b/hangs", 0},     {"a/tree", "b/tree", 0}};
+            {"a/to-dir", "b/new", 0}, {"a/tree", "b/old", -3},    {"a/1", "b/dir", -3},     {"a/1", "b/old", 0},
+            {"a/link", "b/old", 0},   {"a/2", "b/to-source", 0},  {"a/3", "b/dangling", 0}, {"a/4", "b/hangs", 0},
+            {"a/tree", "b/tree", 0},  {"a/fifo", "b/new-fifo", 0}};
         for (const auto& [from, to, result] : rows) { TestRename(from, to, false, result); }
-        EXPECT_EQ(Content("a/no"), "0");
         EXPECT_EQ(Content("b/no"), "0");
         WriteFile("a/tree/sub/x", "new");
-        WriteFile("a/tree/sub/y", "y");
         EXPECT_EQ(FSRename(at_ / "a/tree", "b/tree", true), 0);  // the trees merge
-        EXPECT_EQ(ReadFile("b/tree/sub/x"), "new");
-        EXPECT_EQ(ReadFile("b/tree/sub/y"), "y");
-        EXPECT_EQ(Content("a/tree"), "0");
-        EXPECT_EQ(fs::read_symlink("b/tree/link"), "no");
+        EXPECT_EQ(ReadFile("b/tree/sub/x") + ReadFile("b/tree/.hidden"), "newa/tree/.hidden");
         // One object under two mounts stays, and so does a socket.
         mount("a", "b/dir", nullptr, MS_BIND, nullptr);
-        WriteFile("a/file", "file");
-        fs::create_symlink("file", "a/link");
-        mkfifo("a/fifo", 0600);
-        fs::create_directory("a/empty");
+        WriteFile("a/empty/file", "file");
         mknod("a/socket", S_IFSOCK | 0600, 0);
         const std::string before = Content("a");
-        for (const std::string name : {"file", "link", "fifo", "empty"}) {
-            EXPECT_EQ(FSRename("a/" + name, "b/dir/" + name, false), 0);
-        }
+        EXPECT_EQ(FSRename("a/empty", "b/dir/empty", false), 0);
         EXPECT_EQ(FSRename("a/socket", "b/socket", false), 0);
         EXPECT_EQ(Content("a"), before);
-        TestRename("a/link", "b/dir/file", false, 0);
         EXPECT_EQ(OpenDescriptors(), descriptors_);
     });
 }
 
-// Size, time and inode number take more than 32 bits.
+// Size and time take more than 32 bits.
 TEST_F(FileOp, MovesAndCountsLargeFiles) {
     constexpr std::int64_t kSize = (4LL << 30) + 3, kTime = 5000000000;
     const timespec times[] = {{kTime, 0}, {kTime, 0}};
-    const auto mount_volumes = [&] {
-        fs::create_directory("a");
-        if (!OwnMounts() || mount("", "dir", "tmpfs", 0, nullptr) || mount("", "empty", "tmpfs", 0, nullptr)) {
-            return false;
-        }
-        std::ofstream("dir/large").seekp(kSize - 3) << "end";
-        utimensat(AT_FDCWD, "dir/large", times, 0);
-        fs::create_directories("empty/upper");
-        fs::create_directories("empty/work");
-        // Inode numbers of the lower directory have high bits.
-        return !mount("", "a", "overlay", 0, "lowerdir=dir,upperdir=empty/upper,workdir=empty/work,xino=on");
-    };
-    InChild(mount_volumes, [&] {
-        EXPECT_GT(Status("a/large").st_ino, UINT32_MAX);
-        _FILE_INFO_tag info;
-        EXPECT_EQ(GetFileInfo("a/large", info), 0);
-        EXPECT_EQ(info.size, kSize);
-        EXPECT_EQ(info.mtime, std::min<std::int64_t>(kTime, LONG_MAX));
-        hooks::g.leave_holes = true;
-        EXPECT_EQ(FSRename("a/large", "empty/large", false), 0);
-        std::ifstream file("empty/large");
-        std::string end;
-        file.seekg(kSize - 3) >> end;
-        EXPECT_EQ(end, "end");
-        EXPECT_EQ(fs::file_size("empty/large"), kSize);
-        EXPECT_EQ(FSRemove("a", false), -3);  // a mount point, but empty now
-        EXPECT_TRUE(fs::is_empty("a"));
-    });
+    InChild([] { return OwnMounts() && !mount("", "dir", "tmpfs", 0, nullptr); },
+            [&] {
+                std::ofstream("dir/large").seekp(kSize - 3) << "end";
+                utimensat(AT_FDCWD, "dir/large", times, 0);
+                _FILE_INFO_tag info;
+                EXPECT_EQ(GetFileInfo("dir/large", info), 0);
+                EXPECT_EQ(info.size, kSize);
+                EXPECT_EQ(info.mtime, std::min<std::int64_t>(kTime, LONG_MAX));
+                hooks::g.leave_holes = true;
+                EXPECT_EQ(FSRename("dir/large", "empty/large", false), 0);
+                std::ifstream file("empty/large");
+                std::string end;
+                file.seekg(kSize - 3) >> end;
+                EXPECT_EQ(end, "end");
+                EXPECT_EQ(fs::file_size("empty/large"), kSize);
+                EXPECT_EQ(FSRemove("dir", false), -3);  // a mount point
+            });
 }
 
 TEST_F(FileOp, MakeDirectories) {
@@ -201,8 +174,6 @@ TEST_F(FileOp, MakeDirectories) {
         EXPECT_EQ(fs::is_directory(path), error == 0);
     }
     EXPECT_TRUE(fs::is_symlink("link"));
-    errno = 0;
-    EXPECT_TRUE(FSMKDirP("", nullptr, false, 0xFFFF) == -1 && errno == ENOENT);
     const mode_t former = umask(027);
     EXPECT_EQ(FSMKDir("masked", false), 0);
     EXPECT_EQ(FSMKDirP("masked/x", nullptr, false, 0xFFFF), 0);
@@ -265,15 +236,10 @@ TEST_F(FileOp, RemovalDoesNotLeaveTheTree) {
     fs::create_directories("tree/a/b/c");
     fs::create_directory("other");
     WriteFile(at_ / "other/b", "");
+    hooks::g.openat_calls_before = 3;
     hooks::g.before_openat = [] {
-        hooks::g.before_openat = [] {
-            hooks::g.before_openat = [] {
-                hooks::g.before_openat = [] {
-                    fs::remove("other/b");
-                    fs::rename("tree/a/b", "other/b");
-                };
-            };
-        };
+        fs::remove("other/b");
+        fs::rename("tree/a/b", "other/b");
     };
     EXPECT_EQ(FSRemove("tree", false), -3);
     EXPECT_TRUE(fs::exists("other/b"));

@@ -149,7 +149,7 @@ TEST_F(ServiceTest, KeepsCopiesWithoutPermission) {
     fs::permissions(home / "from/closed", fs::perms::none);
     fs::permissions(home.path(), fs::perms::all);
     // A directory that cannot be opened stays empty, without a failure.
-    InChild(BecomeNobody, [&] { EXPECT_EQ(service.FSCopyPath((home / "from").c_str(), (home / "to").c_str()), 0); });
+    InChild(BecomeLoner, [&] { EXPECT_EQ(service.FSCopyPath((home / "from").c_str(), (home / "to").c_str()), 0); });
     EXPECT_EQ(ReadFile(home / "to/open"), "open");
     EXPECT_TRUE(fs::is_empty(home / "to/closed"));
     EXPECT_EQ(LogLines("[WARNING] quillmere-service("), 1);
@@ -162,7 +162,7 @@ TEST_F(ServiceTest, KeepsCopiesWithoutPermission) {
         fs::permissions(App() + "/Contents", fs::perms::owner_read | fs::perms::owner_exec);
         return -1;
     });
-    InChild(BecomeNobody, [&] { EXPECT_EQ(stuck.PrepareUserEnv(), -1); });
+    InChild(BecomeLoner, [&] { EXPECT_EQ(stuck.PrepareUserEnv(), -1); });
     EXPECT_EQ(ReadFile(App() + "_tmp/mark"), "old");
     EXPECT_TRUE(fs::exists(App() + "/Contents/Resources"));
     EXPECT_FALSE(fs::exists(App() + kInfo));
@@ -170,10 +170,10 @@ TEST_F(ServiceTest, KeepsCopiesWithoutPermission) {
     WriteFile(App() + "_tmp" + kInfo, "build_version=1");
     WriteFile(App() + kInfo, "");
     fs::permissions(App() + kInfo, fs::perms::none);
-    InChild(BecomeNobody, [] { Service::Repair({}); });
+    InChild(BecomeLoner, [] { Service::Repair({}); });
     EXPECT_EQ(ReadFile(App() + "_tmp/mark"), "old");
     fs::permissions(home / ".Quillmere", fs::perms::none);
-    InChild(BecomeNobody, [&] { EXPECT_EQ(service.PrepareUserEnv(), -1); });
+    InChild(BecomeLoner, [&] { EXPECT_EQ(service.PrepareUserEnv(), -1); });
     EXPECT_EQ(LogLines("failed to backup app from '"), 11);
     EXPECT_EQ(LogLines("Quillmere.app_tmp9' at max retries, exiting\n"), 1);
 }
