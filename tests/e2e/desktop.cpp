@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 Desktop::Desktop(int resolution) {
     static int argc = 0;
     static const QCoreApplication application(argc, nullptr);  // for sockets
-    server_.start("Xvfb", {"-displayfd", "1", "-noreset", "-listen", "tcp", "-screen", "0", "1280x800x24"});
+    server_.start("Xvfb", {"-displayfd", "1", "-noreset", "-screen", "0", "1280x800x24"});
     EXPECT_TRUE(WaitFor([&] { return server_.canReadLine() || server_.waitForReadyRead(100); }));
     display_ = ":" + server_.readLine().trimmed();
     // Desktops set this. Some releases of Qt ignore the physical size of the screen.

@@ -98,7 +98,6 @@ TEST(Launcher, StartsInSessionsOfManyKinds) {
     };
     Session quick[] = {
         {"display", true, With(display)},
-        {"display by IPv6", true, With("[::1]" + display)},
         {"no display", false, With("")},
         {"nobody's display", false, With(":4242", "QT_QPA_PLATFORM", "xcb")},
         {"Wayland without its plug-in", true, With(display, "QT_QPA_PLATFORM", "wayland")},

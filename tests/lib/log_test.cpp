@@ -90,18 +90,6 @@ TEST_F(LoggerTest, ALineIsTheLocalTimeAndTheMessage) {
     EXPECT_EQ(ReadFile(log_), "Nov 14 23:13:20 100%\nNov 14 23:13:21 b\nNov 15 06:13:21 c\n");
 }
 
-TEST_F(LoggerTest, LongLinesAreCompleteAndCountOnceWritten) {
-    const std::string text(300000, 'x');
-    ASSERT_EQ(Open(log_), 0);
-    Log(text);
-    EXPECT_TRUE(ReadFile(log_).substr(kStamp) == text + "\n");
-    EXPECT_EQ(LoggerTestPeer::size(), 300000 + kStamp + 1);
-    fs::create_symlink("/dev/full", dir_ / "full");
-    ASSERT_EQ(Open(dir_ / "full"), 0);
-    Log(text);
-    EXPECT_EQ(LoggerTestPeer::size(), 0);
-}
-
 // Waits until a thread of this process sleeps (proc(5)).
 void WaitUntilAsleep(pid_t thread) {
     const std::string path = "/proc/self/task/" + std::to_string(thread) + "/stat";

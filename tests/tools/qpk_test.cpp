@@ -48,9 +48,7 @@ TEST_F(QpkTest, WrongUsage) {
         {"$Q make c -o p --build=-1", "--build: is -1" + range},
         {"$Q make c -o p --build=+1", "--build: is +1" + range},
         {"$Q make c -o p --build 2147483648", "--build: is 2147483648" + range},
-        {"$Q make c -o p --build ''", "--build: is " + range},
         {"$Q make c -o p --build 1 --level 9abc", "--level: is 9abc" + range + "1 to 19: give a number in this range"},
-        {"$Q make c -o p --build 1 --level 0", "--level: is 0" + range},
         {"$Q make c -o p --build 1 --level 20", "--level: is 20" + range},
         {"SOURCE_DATE_EPOCH=5s $Q make c -o p --build 1", "SOURCE_DATE_EPOCH: is 5s" + range},
     };

@@ -24,10 +24,6 @@ class ExtractorTest : public ServiceTest {
     }
 
     int ExtractAfresh() {
-        fs::create_directory(home / "dest");
-        for (const auto& entry : fs::recursive_directory_iterator(home / "dest")) {  // those of an ISO are read-only
-            if (entry.is_directory()) { fs::permissions(entry, fs::perms::owner_all); }
-        }
         fs::remove_all(home / "dest");
         fs::create_directory(home / "dest");
         fs::resize_file(LogPath(), 0);
@@ -126,8 +122,8 @@ TEST_F(ExtractorTest, HandlesHostileAndOddPackages) {
         EXPECT_EQ(ReadFile(outside), "outside");
     }
     EXPECT_EQ(Look(out), (Tree{{"b", "y"}}));
-    for (const ArchiveFormat format : {archive_write_set_format_zip, archive_write_set_format_7zip,
-                                       archive_write_set_format_cpio_newc, archive_write_set_format_iso9660}) {
+    for (const ArchiveFormat format :
+         {archive_write_set_format_zip, archive_write_set_format_7zip, archive_write_set_format_cpio_newc}) {
         MakeArchive(home / "archive", {{"a", "x"}, {"b/c", "y"}}, format, "cat");
         EXPECT_EQ(ExtractAfresh(), 0);
         EXPECT_EQ(Look(home / "dest"), (Tree{{"a", "x"}, {"b", "/"}, {"b/c", "y"}}));
