@@ -1,4 +1,4 @@
-// Xvfb, openbox and xdotool; slow packages; the spy plug-in.
+// Xvfb, openbox and xdotool; delayed packages; the spy plug-in.
 #include "e2e/desktop.h"
 
 #include <fcntl.h>
@@ -28,9 +28,10 @@ Desktop::Desktop(int resolution) {
 }
 
 Desktop::~Desktop() {
-    KillWindowManager();
-    server_.kill();
-    server_.waitForFinished();
+    for (QProcess* const process : {&manager_, &server_}) {
+        process->kill();
+        process->waitForFinished();
+    }
 }
 
 void Desktop::Show(World& world) const {
@@ -49,26 +50,21 @@ QString Desktop::Window(const QProcess& start) const {
     return Do({"search", "--onlyvisible", "--pid", QString::number(LauncherOf(start))});
 }
 
-void Desktop::KillWindowManager() {
-    manager_.kill();
-    manager_.waitForFinished();
-}
-
-SlowPackage::SlowPackage(const World& world) : path_(world.Package()), package_(ReadFile(path_)) {
-    fs::remove(path_);
-    EXPECT_EQ(mkfifo(path_.c_str(), S_IRUSR | S_IWUSR), 0);
-}
-
-// A waiting launcher reads the FIFO; later ones read the file.
-void SlowPackage::Arrive() const {
-    UniqueFd fifo;
-    EXPECT_TRUE(WaitFor([&] {
-        fifo.reset(open(path_.c_str(), O_WRONLY | O_NONBLOCK));
-        return fifo.valid();
-    })) << "no launcher reads the package";
-    WriteFile(path_ + ".new", package_);
-    fs::rename(path_ + ".new", path_);
-    EXPECT_EQ(write(fifo.get(), package_.data(), package_.size()), static_cast<ssize_t>(package_.size()));
+std::function<void()> DelayPackage(const World& world) {
+    const std::string path = world.Package(), package = ReadFile(path);
+    fs::remove(path);
+    EXPECT_EQ(mkfifo(path.c_str(), S_IRUSR | S_IWUSR), 0);
+    // A waiting launcher reads the FIFO; later ones read the file.
+    return [path, package] {
+        UniqueFd fifo;
+        EXPECT_TRUE(WaitFor([&] {
+            fifo.reset(open(path.c_str(), O_WRONLY | O_NONBLOCK));
+            return fifo.valid();
+        })) << "no launcher reads the package";
+        WriteFile(path + ".new", package);
+        fs::rename(path + ".new", path);
+        EXPECT_EQ(write(fifo.get(), package.data(), package.size()), static_cast<ssize_t>(package.size()));
+    };
 }
 
 void Spy(World& world, const char* how) {

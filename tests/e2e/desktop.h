@@ -1,4 +1,4 @@
-// An X display with a window manager, slow packages, and the spy plug-in.
+// An X display with a window manager, delayed packages, and the spy plug-in.
 #pragma once
 
 #include "e2e/harness.h"
@@ -16,7 +16,6 @@ class Desktop {
     // xdotool's number of the visible window of a start; empty without one.
     QString Window(const QProcess& start) const;
     void SignalServer(int number) { kill(static_cast<pid_t>(server_.processId()), number); }
-    void KillWindowManager();
 
   private:
     QProcess server_;
@@ -24,18 +23,8 @@ class Desktop {
     QString display_;
 };
 
-// A package that arrives slowly: a FIFO (fifo(7)). The upgrade shows its window and waits.
-class SlowPackage {
-  public:
-    // Replaces the package in the bundle of `world`.
-    explicit SlowPackage(const World& world);
-    // Delivers the package.
-    void Arrive() const;
-
-  private:
-    std::string path_;
-    std::string package_;
-};
+// Replaces the package in the bundle with a FIFO (fifo(7)), so that an upgrade waits. Result: delivers the package.
+std::function<void()> DelayPackage(const World& world);
 
 // Loads the plug-in of spy.cpp into the launcher.
 void Spy(World& world, const char* how = "spy");

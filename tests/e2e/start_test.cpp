@@ -76,8 +76,8 @@ std::function<void(World&)> WithPlugins(const QString& display, std::size_t at, 
 
 // Accepts connections as an X display does. Result: the name of the display.
 QString ListenAsDisplay(QTcpServer& server) {
-    int number = 101;
-    while (!server.listen(QHostAddress::LocalHost, static_cast<quint16>(6000 + number))) { ++number; }
+    quint16 number = 101;
+    while (!server.listen(QHostAddress::LocalHost, 6000 + number)) { ++number; }
     return QString("127.0.0.1:%1").arg(number);
 }
 
@@ -87,14 +87,14 @@ TEST(Launcher, StartsInSessionsOfManyKinds) {
     const Desktop desktop;
     const QString display = desktop.Display();
     const TempDir dir;
-    const QString bus_name = QString::fromStdString(dir / "bus");
+    const QString silent_bus = QString::fromStdString(dir / "bus");
     QLocalServer bus;
-    ASSERT_TRUE(bus.listen(bus_name));
-    QTcpServer silent;
+    ASSERT_TRUE(bus.listen(silent_bus));
+    QTcpServer server;
     Session slow[] = {
-        {"silent display", false, With(ListenAsDisplay(silent))},
-        {"silent bus", true, With(display, "DBUS_SESSION_BUS_ADDRESS", "unix:path=" + bus_name)},
-        {"silent session manager", true, With(display, "SESSION_MANAGER", "unix/unix:" + bus_name)},
+        {"silent display", false, With(ListenAsDisplay(server))},
+        {"silent bus", true, With(display, "DBUS_SESSION_BUS_ADDRESS", "unix:path=" + silent_bus)},
+        {"silent session manager", true, With(display, "SESSION_MANAGER", "unix/unix:" + silent_bus)},
     };
     Session quick[] = {
         {"display", true, With(display)},
@@ -117,9 +117,9 @@ TEST(Launcher, StartsInSessionsOfManyKinds) {
         Check(session);
     }
     std::for_each(std::begin(slow), std::end(slow), Check);
-    EXPECT_TRUE(silent.waitForNewConnection(0));
-    delete silent.nextPendingConnection();
-    EXPECT_FALSE(silent.hasPendingConnections()) << "a second attempt with a silent display";
+    EXPECT_TRUE(server.waitForNewConnection(0));
+    delete server.nextPendingConnection();
+    EXPECT_FALSE(server.hasPendingConnections()) << "a second attempt with a silent display";
 }
 
 // With a limit of one process, the launcher becomes the client.
@@ -154,7 +154,7 @@ TEST(Launcher, RunsOneAtATime) {
     world.Offer(2);
     const auto as_it_is = fs::copy_options::recursive | fs::copy_options::copy_symlinks;
     fs::copy(world.Bundle(), world.dir / "Other.app", as_it_is);
-    const SlowPackage package(world);
+    const auto deliver_package = DelayPackage(world);
     const auto is_logged = [&world](const char* line, int times) {
         return WaitFor([&] { return QString::fromStdString(world.Log()).count(line) == times; });
     };
@@ -188,7 +188,7 @@ TEST(Launcher, RunsOneAtATime) {
         return Contains(ReadFile("/proc/locks"), waits);
     }));
     EXPECT_TRUE(is_logged("waiting for '", 1));
-    package.Arrive();
+    deliver_package();
     EXPECT_TRUE(Succeeded(world.Finish(*first), world, 2));
     EXPECT_TRUE(Succeeded(world.Finish(*other), world, 2));
     world.program.clear();
@@ -224,7 +224,7 @@ TEST(Launcher, GoesOnWhenItsWorkingProcessDies) {
         world.LogEverything();
         world.Have(1);
         world.Offer(2);
-        const SlowPackage package(world);
+        const auto deliver_package = DelayPackage(world);
         const auto start = world.Spawn();
         ASSERT_TRUE(WaitFor([&] { return Contains(world.Log(), ": extract package: "); }));
         const pid_t launcher = LauncherOf(*start);
@@ -239,7 +239,7 @@ TEST(Launcher, GoesOnWhenItsWorkingProcessDies) {
         }
         // A process that is dying may still have the package open.
         EXPECT_TRUE(row.goes_on == kWorkerAlone || WaitFor([&] { return !IsAlive(launcher); }));
-        package.Arrive();
+        deliver_package();
         EXPECT_EQ(world.Finish(*start).exit_code, row.goes_on == kSameStart ? 0 : -1);
         EXPECT_NE(world.WaitForClient(), 0);
         EXPECT_EQ(world.Installed(), "2");

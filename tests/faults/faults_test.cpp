@@ -302,7 +302,9 @@ TEST(Starts, AtOnceAndKilledAtRandom) {
         if (random() % 3 == 0 && killed > 1) { kill(killed, SIGKILL); }
     }
     for (const auto& start : starts) { EXPECT_TRUE(EndedWell(world.Finish(*start))); }
-    EXPECT_NE(world.Installed(), "");
+    int whole = 0;
+    for (const fs::path& copy : fs::directory_iterator(world.User())) { whole += fs::exists(copy / kInfo) ? 1 : 0; }
+    EXPECT_GE(whole, 1);
     EXPECT_TRUE(Succeeded(world.Run(), world, 2));
 }
 

@@ -130,9 +130,57 @@ TEST_F(ServiceTest, CopiesTrees) {
     EXPECT_EQ(LogLines("FSCopyPath: failed to stat source ''"), 1);
 }
 
+// Copies are contents of INFO by the suffix of the copy's name. Later ones of `before` were moved later.
+TEST_F(ServiceTest, RepairsWhatADeadAttemptLeft) {
+    using Copies = std::map<std::string, std::string>;
+    const std::string v1 = "build_version=1", v2 = "build_version=2";
+    const struct {
+        Stage reached;
+        int backups;
+        std::vector<Copies::value_type> before;
+        Copies after;
+    } cases[] = {
+        {Stage::kInstalled, 2, {{"", v2}, {"_tmp", v1}, {"_tmp1", v1}, {"_tmp2", v1}}, {{"", v2}, {"_tmp2", v1}}},
+        {Stage::kMoved, 1, {{"", v2}, {"_tmp", v1}}, {{"", v1}}},
+        {Stage::kMoved, 2, {{"", v2}, {"_tmp", v1}}, {{"", v2}, {"_tmp", v1}}},
+        {Stage::kMoved, 2, {{"_tmp", v1}, {"_tmp1", ""}}, {{"", v1}}},
+        {Stage::kStarted, 0, {{"", v2}, {"_tmp", v1}}, {{"", v2}, {"_tmp", v1}}},
+        {Stage::kStarted,
+         0,
+         {{"", ""}, {"_tmp", v1}, {"_tmp9", v2}, {"_tmp3", "x"}},
+         {{"", v2}, {"_tmp", v1}, {"_tmp3", "x"}}},
+        {Stage::kStarted, 0, {{"_tmp9", v1}, {"_tmp", v2}}, {{"", v2}, {"_tmp9", v1}}},
+        {Stage::kStarted, 0, {{"", ""}, {"_tmp", ""}}, {{"", ""}, {"_tmp", ""}}},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(&row - cases);
+        fs::remove_all(home / ".Quillmere");
+        struct stat former = {}, status = {};
+        for (const auto& [suffix, info] : row.before) {
+            WriteFile(App() + suffix + kInfo, info);
+            do {
+                fs::permissions(App() + suffix, fs::perms::owner_all);
+                stat((App() + suffix).c_str(), &status);
+            } while (status.st_ctim.tv_sec == former.st_ctim.tv_sec &&
+                     status.st_ctim.tv_nsec == former.st_ctim.tv_nsec);
+            former = status;
+        }
+        Service::Repair({StartMode::kAfterRepair, "", row.reached, row.backups});
+        Copies left;
+        for (const fs::path& copy : fs::directory_iterator(home / ".Quillmere")) {
+            left[copy.string().substr(App().size())] = ReadFile(copy.string() + kInfo);
+        }
+        EXPECT_EQ(left, row.after);
+    }
+    EXPECT_EQ(LogLines(": putting '"), 5);
+}
+
 TEST_F(ServiceTest, ReportsAFileInPlaceOfTheUserDirectory) {
     WriteFile(home / ".Quillmere", "");
-    EXPECT_EQ(MacService().PrepareUserEnv(), -1);
+    MacService service;
+    service.PreUpgrade();
+    EXPECT_EQ(service.PrepareUserEnv(), -1);
+    EXPECT_EQ(LogLines(": source does not exist\n"), 1);
     EXPECT_EQ(LogLines(": failed to create folder: '"), 1);
     EXPECT_EQ(LogLines("Failed to extract package, and no old installation to rollback\n"), 1);
 }
