@@ -10,6 +10,7 @@
 #include <map>
 
 #include "in_child.h"
+#include "rows.h"
 #include "temp_dir.h"
 
 // Paths and contents of a package, in order.

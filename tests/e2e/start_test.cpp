@@ -200,24 +200,17 @@ TEST(Launcher, RunsOneAtATime) {
 // A signal kills a process of the start while the package arrives slowly.
 TEST(Launcher, GoesOnWhenItsWorkingProcessDies) {
     const auto supervisor = [](const QProcess& start) { return static_cast<pid_t>(start.processId()); };
-    const std::function<pid_t(const QProcess&)> worker = LauncherOf;
+    const auto worker = LauncherOf;
     enum Then { kSameStart, kWorkerAlone, kNextStart };
-    const struct {
-        const char* name;
-        std::function<pid_t(const QProcess&)> target;
-        int number;
-        Then goes_on;
-        std::string cause;
-    } cases[] = {
+    const Rows<const char*, std::function<pid_t(const QProcess&)>, int, Then, std::string> cases = {
         {"killed", worker, SIGKILL, kSameStart, "was ended by a signal (Killed) during the run"},
         {"crashed", worker, SIGSEGV, kSameStart, "was ended by a signal (Segmentation fault) during the run"},
-        {"aborted", worker, SIGABRT, kSameStart, "was ended by a signal (Aborted) during the run"},
         {"supervisor killed", supervisor, SIGKILL, kWorkerAlone, ""},
         {"asked to end", supervisor, SIGTERM, kNextStart, ""},
         {"interrupted", supervisor, SIGINT, kNextStart, ""},
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, target, number, goes_on, cause] : cases) {
+        SCOPED_TRACE(name);
         World world;
         world.environment.insert("ASAN_OPTIONS", "handle_segv=0");
         world.environment.insert("TSAN_OPTIONS", "handle_segv=0");
@@ -228,8 +221,8 @@ TEST(Launcher, GoesOnWhenItsWorkingProcessDies) {
         const auto start = world.Spawn();
         ASSERT_TRUE(WaitFor([&] { return Contains(world.Log(), ": extract package: "); }));
         const pid_t launcher = LauncherOf(*start);
-        EXPECT_EQ(kill(row.target(*start), row.number), 0);
-        if (row.goes_on == kNextStart) {
+        EXPECT_EQ(kill(target(*start), number), 0);
+        if (goes_on == kNextStart) {
             EXPECT_TRUE(WaitFor([&] { return !IsAlive(launcher); }));
             EXPECT_EQ(world.Finish(*start).exit_code, -1);
             EXPECT_EQ(world.ClientPid(), 0);
@@ -238,14 +231,14 @@ TEST(Launcher, GoesOnWhenItsWorkingProcessDies) {
             continue;
         }
         // A process that is dying may still have the package open.
-        EXPECT_TRUE(row.goes_on == kWorkerAlone || WaitFor([&] { return !IsAlive(launcher); }));
+        EXPECT_TRUE(goes_on == kWorkerAlone || WaitFor([&] { return !IsAlive(launcher); }));
         deliver_package();
-        EXPECT_EQ(world.Finish(*start).exit_code, row.goes_on == kSameStart ? 0 : -1);
+        EXPECT_EQ(world.Finish(*start).exit_code, goes_on == kSameStart ? 0 : -1);
         EXPECT_NE(world.WaitForClient(), 0);
         EXPECT_EQ(world.Installed(), "2");
         EXPECT_FALSE(fs::exists(world.App() + "_tmp"));
-        const std::string warning = ": the previous attempt " + row.cause + "; this one has no display and puts ";
-        EXPECT_EQ(QString::fromStdString(world.Log()).count(" [WARNING] "), row.cause.empty() ? 0 : 1);
-        EXPECT_EQ(Contains(world.Log(), warning), !row.cause.empty());
+        const std::string warning = ": the previous attempt " + cause + "; this one has no display and puts ";
+        EXPECT_EQ(QString::fromStdString(world.Log()).count(" [WARNING] "), cause.empty() ? 0 : 1);
+        EXPECT_EQ(Contains(world.Log(), warning), !cause.empty());
     }
 }

@@ -8,21 +8,18 @@
 
 #include <regex>
 #include <set>
-#include <tuple>
-#include <vector>
 
 #include "file/file-op.h"
 #include "log.h"
 #include "tests/hooks.h"
 #include "tests/in_child.h"
+#include "tests/rows.h"
 #include "tests/temp_dir.h"
 
 namespace fs = std::filesystem;
 using namespace std::string_literals;
 
 using Text = const char*;
-template <class... Columns>
-using Rows = std::vector<std::tuple<Columns...>>;
 
 const std::string kComposed = "caf\xc3\xa9", kDecomposed = "cafe\xcc\x81", kNotUtf8 = "caf\xe9";
 

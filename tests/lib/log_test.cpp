@@ -14,6 +14,7 @@
 #include <thread>
 
 #include "tests/hooks.h"
+#include "tests/rows.h"
 #include "tests/temp_dir.h"
 
 struct LoggerTestPeer {
@@ -171,11 +172,7 @@ TEST_F(LoggerTest, WhereLinesGoAfterRotationsFailuresAndReopenings) {
     const Step nearly_fill = [] { LoggerTestPeer::size() += 1048576 - 2 * kLine; };
     const Step move_away = [&] { fs::rename(log_, dir_ / "moved"); };
     const auto a = write("a"), b = write("b"), c = write("c"), d = write("d"), e = write("e");
-    const struct {
-        const char* files;
-        int size;  // at the end
-        std::vector<Step> steps;
-    } rows[] = {
+    const Rows<const char*, int, std::vector<Step>> rows = {
         // Lines of an earlier process do not count.
         {"log:d log_0:eabc ", kLine, {open(9), e, open(9), a, nearly_fill, b, c, d}},
         {"log: log_0:c log_1:a ", 0, {open(9), a, rotate, b, rotate, open(1), c, rotate}},
@@ -188,14 +185,13 @@ TEST_F(LoggerTest, WhereLinesGoAfterRotationsFailuresAndReopenings) {
         {"log_0:ab moved:c ", kLine, {open(9), a, other_writer_rotates, b, rotate, move_away, c}},
         {"moved:a ", kLine, {open(9), a, move_away, fail_to_rotate, b}},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(&row - rows);
-        for (const Step& step : row.steps) {
+    for (const auto& [files, size, steps] : rows) {
+        for (const Step& step : steps) {
             step();
             EXPECT_EQ(hooks::InheritableDescriptors(), 0);
         }
-        EXPECT_EQ(LoggerTestPeer::size(), row.size);
-        EXPECT_EQ(TakeFiles(), row.files);
+        EXPECT_EQ(LoggerTestPeer::size(), size) << files;
+        EXPECT_EQ(TakeFiles(), files);
     }
 }
 

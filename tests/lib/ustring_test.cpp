@@ -9,6 +9,8 @@
 #include <sstream>
 #include <string>
 
+#include "tests/rows.h"
+
 struct ustring_test_peer {
     static unsigned long units(ustring const& s) { return s.wdata_length; }
     static unsigned long capacity(ustring const& s) { return s.data_capacity; }
@@ -202,13 +204,11 @@ TEST(UstringSearchTest, StopsAtANulInsideTheText) {
 }
 
 TEST(UstringCompareTest, ReturnsTheDifferenceOfTheFirstDifferentBytes) {
-    static const struct {
-        char const *a, *b;
-        int difference, folded;
-    } kRows[] = {{"", "", 0, 0},     {"ab", "a", 98, 98},     {"AZ", "az", -32, 0},
-                 {"a", "c", -2, -2}, {"@", "`", -32, -32},    {"ABC", "abd", -32, -1},
-                 {"é", "É", 32, 32}, {"[", "{", -32, -32},    {"\xFF", "\x7F", 128, 128},
-                 {"_", "A", 30, -2}, {"é", "e\u0301", 94, 94}};
+    static const Rows<char const*, char const*, int, int> kRows = {
+        {"", "", 0, 0},     {"ab", "a", 98, 98},     {"AZ", "az", -32, 0},
+        {"a", "c", -2, -2}, {"@", "`", -32, -32},    {"ABC", "abd", -32, -1},
+        {"é", "É", 32, 32}, {"[", "{", -32, -32},    {"\xFF", "\x7F", 128, 128},
+        {"_", "A", 30, -2}, {"é", "e\u0301", 94, 94}};
     for (auto const& [left, right, difference, folded] : kRows) {
         SCOPED_TRACE(testing::Message() << left << " and " << right);
         const ustring a(left), b(right);

@@ -3,13 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/rows.h"
+
 TEST(PlatformsToTry, ForEachKindOfSession) {
-    const struct {
-        const char* wanted;  // $QT_QPA_PLATFORM
-        const char* display;
-        const char* wayland;
-        const char* platforms;
-    } cases[] = {
+    using Text = const char*;
+    const Rows<Text, Text, Text, Text> cases = {
         {"", "", "", "offscreen"},
         {"", ":0", "", "xcb;offscreen"},
         {"", "", "wayland-0", "wayland;offscreen"},
@@ -22,11 +20,11 @@ TEST(PlatformsToTry, ForEachKindOfSession) {
         {"offscreen", ":0", "wayland-0", "offscreen"},
         {"minimal;offscreen", "", "", "minimal;offscreen"},
     };
-    for (const auto& row : cases) {
+    for (const auto& [wanted, display, wayland, platforms] : cases) {
         QProcessEnvironment environment;
-        environment.insert("QT_QPA_PLATFORM", row.wanted);
-        environment.insert("DISPLAY", row.display);
-        environment.insert("WAYLAND_DISPLAY", row.wayland);
-        EXPECT_EQ(PlatformsToTry(environment).join(';'), row.platforms) << row.wanted << row.display << row.wayland;
+        environment.insert("QT_QPA_PLATFORM", wanted);
+        environment.insert("DISPLAY", display);
+        environment.insert("WAYLAND_DISPLAY", wayland);
+        EXPECT_EQ(PlatformsToTry(environment).join(';'), platforms) << wanted << display << wayland;
     }
 }

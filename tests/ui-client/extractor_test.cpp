@@ -81,13 +81,7 @@ TEST_F(ExtractorTest, HandlesHostileAndOddPackages) {
     const std::string out = home / "out";
     const std::string deep(PATH_MAX - (home / "dest/ab").size(), '/');  // one byte more than a system call accepts
     const bool root = getuid() == 0;
-    const struct {
-        const char* name;
-        std::vector<ArchiveMember> entries;
-        int result;
-        Tree tree;
-        const char* log;
-    } cases[] = {
+    const Rows<Text, std::vector<ArchiveMember>, int, Tree, Text> cases = {
         {"no entries", {}, -1, {}, ": Failed to calculate total file numbers, ret: 0\n"},
         {"absolute path", {{"/rooted", "x"}}, 0, {{"rooted", "x"}}, ""},
         {"climbs", {{"a", "x"}, {"../b", "y"}}, -1, {{"a", "x"}}, "2 failed: 'Path contains '..''\n"},
@@ -110,15 +104,15 @@ TEST_F(ExtractorTest, HandlesHostileAndOddPackages) {
         {"device", {{"a", "", S_IFCHR}}, root ? 0 : -1, root ? Tree{{"a", "/"}} : Tree(), ""},
     };
     fs::create_directory(out);
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, entries, result, tree, message] : cases) {
+        SCOPED_TRACE(name);
         WriteFile(outside, "outside");
-        MakeArchive(home / "archive", row.entries);
-        EXPECT_EQ(ExtractAfresh(), row.result);
-        EXPECT_EQ(Look(home / "dest"), row.tree);
+        MakeArchive(home / "archive", entries);
+        EXPECT_EQ(ExtractAfresh(), result);
+        EXPECT_EQ(Look(home / "dest"), tree);
         const std::string log = ReadFile(LogPath());
-        EXPECT_EQ(LogLines("ERROR"), row.result == 0 ? 0 : 1) << log;
-        EXPECT_NE(log.find(row.log), std::string::npos) << log;
+        EXPECT_EQ(LogLines("ERROR"), result == 0 ? 0 : 1) << log;
+        EXPECT_NE(log.find(message), std::string::npos) << log;
         EXPECT_EQ(ReadFile(outside), "outside");
     }
     EXPECT_EQ(Look(out), (Tree{{"b", "y"}}));
@@ -133,7 +127,7 @@ TEST_F(ExtractorTest, HandlesHostileAndOddPackages) {
 }
 
 TEST_F(ExtractorTest, ReportsMissingFilesAndArguments) {
-    const std::tuple<std::string, std::string, int, const char*> cases[] = {
+    const Rows<std::string, std::string, int, Text> cases = {
         {"", home / "dest", 1, ": Invalid Argument\n"},
         {home / "archive", "", 1, ": Invalid Argument\n"},
         {home / "none", home / "dest", 2, "total file numbers, ret: -1\n"}};

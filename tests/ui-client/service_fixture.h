@@ -5,8 +5,11 @@
 #include <map>
 
 #include "log.h"
+#include "rows.h"
 #include "temp_dir.h"
 #include "ui-client/launcher/str-table.h"
+
+using Text = const char*;
 
 // Contents by path: "/" for a directory, "->" and the target's name for a link.
 using Tree = std::map<std::string, std::string>;

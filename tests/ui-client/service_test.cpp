@@ -39,24 +39,19 @@ class FakeExtraction : public MacService {
 }  // namespace
 
 TEST_F(ServiceTest, DecidesAndStopsTheClient) {
-    const struct {
-        const char* source;
-        const char* target;
-        bool present;
-        bool upgrade;
-    } cases[] = {{"99", "120", true, true}, {"120", "99", true, false}, {"120", "99", false, true},
-                 {"7", "7", true, false},   {"7", "7", false, true},    {"", "1", true, true},
-                 {"", "", true, false},     {"12a", "12", true, false}, {"a12", "1", true, true},
-                 {"-1", "", true, true}};
-    for (const auto& row : cases) {
-        SCOPED_TRACE(std::string(row.source) + " to " + row.target);
+    const Rows<Text, Text, bool, bool> cases = {
+        {"99", "120", true, true}, {"120", "99", true, false}, {"120", "99", false, true}, {"7", "7", true, false},
+        {"7", "7", false, true},   {"", "1", true, true},      {"", "", true, false},      {"12a", "12", true, false},
+        {"a12", "1", true, true},  {"-1", "", true, true}};
+    for (const auto& [source, target, present, upgrade] : cases) {
+        SCOPED_TRACE(testing::Message() << source << " to " << target);
         fs::remove_all(App());
-        if (row.present) { WriteFile(App() + kExecutable, ""); }
+        if (present) { WriteFile(App() + kExecutable, ""); }
         FakeExtraction service([] { return 0; });
-        EXPECT_EQ(service.Decide(row.source, row.target), row.upgrade);
+        EXPECT_EQ(service.Decide(source, target), upgrade);
         EXPECT_EQ(service.HandlePackageUpgrade(), 0);
         EXPECT_FALSE(fs::exists(App() + layout::kBackupSuffix));
-        EXPECT_EQ(service.stops, row.present ? 1 : 0);
+        EXPECT_EQ(service.stops, present ? 1 : 0);
     }
     EXPECT_EQ(LogLines("user installation is ready, removing backup app\n"), 10);
 }
@@ -134,12 +129,7 @@ TEST_F(ServiceTest, CopiesTrees) {
 TEST_F(ServiceTest, RepairsWhatADeadAttemptLeft) {
     using Copies = std::map<std::string, std::string>;
     const std::string v1 = "build_version=1", v2 = "build_version=2";
-    const struct {
-        Stage reached;
-        int backups;
-        std::vector<Copies::value_type> before;
-        Copies after;
-    } cases[] = {
+    const Rows<Stage, int, std::vector<Copies::value_type>, Copies> cases = {
         {Stage::kInstalled, 2, {{"", v2}, {"_tmp", v1}, {"_tmp1", v1}, {"_tmp2", v1}}, {{"", v2}, {"_tmp2", v1}}},
         {Stage::kMoved, 1, {{"", v2}, {"_tmp", v1}}, {{"", v1}}},
         {Stage::kMoved, 2, {{"", v2}, {"_tmp", v1}}, {{"", v2}, {"_tmp", v1}}},
@@ -152,11 +142,10 @@ TEST_F(ServiceTest, RepairsWhatADeadAttemptLeft) {
         {Stage::kStarted, 0, {{"_tmp9", v1}, {"_tmp", v2}}, {{"", v2}, {"_tmp9", v1}}},
         {Stage::kStarted, 0, {{"", ""}, {"_tmp", ""}}, {{"", ""}, {"_tmp", ""}}},
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(&row - cases);
+    for (const auto& [reached, backups, before, after] : cases) {
         fs::remove_all(home / ".Quillmere");
         struct stat former = {}, status = {};
-        for (const auto& [suffix, info] : row.before) {
+        for (const auto& [suffix, info] : before) {
             WriteFile(App() + suffix + kInfo, info);
             do {
                 fs::permissions(App() + suffix, fs::perms::owner_all);
@@ -165,12 +154,12 @@ TEST_F(ServiceTest, RepairsWhatADeadAttemptLeft) {
                      status.st_ctim.tv_nsec == former.st_ctim.tv_nsec);
             former = status;
         }
-        Service::Repair({StartMode::kAfterRepair, "", row.reached, row.backups});
+        Service::Repair({StartMode::kAfterRepair, "", reached, backups});
         Copies left;
         for (const fs::path& copy : fs::directory_iterator(home / ".Quillmere")) {
             left[copy.string().substr(App().size())] = ReadFile(copy.string() + kInfo);
         }
-        EXPECT_EQ(left, row.after);
+        EXPECT_EQ(left, after) << testing::PrintToString(before);
     }
     EXPECT_EQ(LogLines(": putting '"), 5);
 }
