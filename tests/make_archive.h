@@ -33,7 +33,6 @@ inline void MakeArchive(const std::string& path, const std::vector<ArchiveMember
         archive_entry* const header = archive_entry_new();
         archive_entry_set_pathname(header, name.c_str());
         archive_entry_set_mode(header, (mode == kHardLink ? S_IFREG : mode) | 0755);
-        archive_entry_set_rdevmajor(header, 1);  // overlayfs refuses 0, 0
         archive_entry_set_hardlink(header, mode == kHardLink ? content.c_str() : nullptr);
         if (mode == S_IFLNK) { archive_entry_set_symlink(header, content.c_str()); }
         const auto size = static_cast<la_int64_t>(content.size());

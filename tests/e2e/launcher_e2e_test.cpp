@@ -132,12 +132,9 @@ TEST(Launcher, AcceptsOddHomesAndLocales) {
         SCOPED_TRACE(name + " under " + locale);
         World world(name);
         world.environment.insert("LANG", locale);
-        for (int build = 1; build <= 2; ++build) {
-            world.Offer(build, Pack(ClientPackage(build, odd_names)));
-            EXPECT_TRUE(Succeeded(world.Run(), world, build));
-            EXPECT_EQ(ReadFile(world.App() + "/Contents/Ünïcode 家/naïve.txt"), "naïve");
-            Kill(world.ClientPid());
-            fs::remove(world.User() + "/ui.pid");
-        }
+        world.Have(1);
+        world.Offer(2, Pack(ClientPackage(2, odd_names)));
+        EXPECT_TRUE(Succeeded(world.Run(), world, 2));
+        EXPECT_EQ(ReadFile(world.App() + "/Contents/Ünïcode 家/naïve.txt"), "naïve");
     }
 }

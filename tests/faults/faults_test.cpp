@@ -271,27 +271,7 @@ TEST(Supervisor, PutsTheOldCopyBackWhenEachAttemptDies) {
     EXPECT_TRUE(Contains(world.Log(), "was ended by a signal (Killed) during the run; this one puts")) << world.Log();
 }
 
-TEST(Starts, AtOnceAndKilledAtRandom) {
-    World world;
-    std::minstd_rand random(1);
-    PackageEntries many;
-    for (int number = 0; number < 2000; ++number) { many.push_back({"files/" + std::to_string(number), ""}); }
-    world.Have(1);
-    world.Offer(2, Pack(ClientPackage(2, many)));
-    std::vector<std::unique_ptr<QProcess>> starts;
-    for (int start = 0; start < 30; ++start) {
-        starts.push_back(world.Spawn());
-        const pid_t killed = LauncherOf(*starts[random() % starts.size()]);
-        if (random() % 3 == 0 && killed > 1) { kill(killed, SIGKILL); }
-    }
-    for (const auto& start : starts) { EXPECT_TRUE(EndedWell(world.Finish(*start))); }
-    int whole = 0;
-    for (const fs::path& copy : fs::directory_iterator(world.User())) { whole += fs::exists(copy / kInfo) ? 1 : 0; }
-    EXPECT_GE(whole, 1);
-    EXPECT_TRUE(Succeeded(world.Run(), world, 2));
-}
-
-TEST(Starts, UnderALimitOfTheSizeOfAFile) {
+TEST(Supervisor, IgnoresALimitOfTheSizeOfAFile) {
     World world;
     world.Offer(1, Pack(kKinds.at("old")));
     EXPECT_EQ(world.Run().exit_code, 0);

@@ -106,8 +106,8 @@ inline FileCall Describe(pid_t process, const seccomp_data& data) {
 }
 
 // Runs a start until its processes and their children have ended, at most a minute. Calls `answer` for their calls
-// on paths that begin with one of `places`. Result: the exit code of the supervisor; -1 if a signal ended it, -2 if
-// calls cannot be intercepted here.
+// on paths that begin with one of `places`. Result: the exit code of the supervisor; -1 if a signal ended it, also
+// where calls cannot be intercepted.
 inline int RunIntercepted(const World& world, const std::vector<std::string>& places,
                           const std::function<int(const FileCall&)>& answer) {
     constexpr int kListener = 200;
@@ -143,5 +143,5 @@ inline int RunIntercepted(const World& world, const std::vector<std::string>& pl
         response.flags = done ? 0 : SECCOMP_USER_NOTIF_FLAG_CONTINUE;
         ioctl(listener.get(), SECCOMP_IOCTL_NOTIF_SEND, &response);
     }
-    return !listener.valid() ? -2 : supervisor->exitStatus() == QProcess::NormalExit ? supervisor->exitCode() : -1;
+    return supervisor->exitStatus() == QProcess::NormalExit ? supervisor->exitCode() : -1;
 }

@@ -2,8 +2,8 @@
 #include "config.h"
 
 #include <climits>
-#include <map>
 
+#include "tests/rows.h"
 #include "tests/temp_dir.h"
 
 namespace {
@@ -22,23 +22,22 @@ std::string Read(const std::string& path) {
 TEST(ConfigTest, AcceptsValidLinesAndRejectsFilesWithOthers) {
     const TempDir dir;
     const std::string longest(8189, 'x');  // with "k=", the longest line
-    const std::vector<std::string> rows[] = {{" k = v # w\n", "(k:v)"},
-                                             {"k=\"a b\"\nl=\"\"\n", "(k:a b)(l:)"},
-                                             {"k='a#\"'#\n", "(k:a#\")"},
-                                             {"E-y_1.=v", "(E-y_1.:v)"},
-                                             {"k=b=c#d\n", "(k:b=c#d)"},
-                                             {"k = #c\n", "(k:#c)"},
-                                             {"\n=v\n", "(:v)"},
-                                             {"k=é #é\n", "(k:é)"},
-                                             {"k=1\nk=2\n", "(k:2)"},
-                                             {"k=v\r\nl=''\r\n", "(k:v)(l:)"},
-                                             {"k\v=\f\"'\"\t#\n", "(k:')"},
-                                             {"\n \t\n # a=b\nk#c\nk", ""},
-                                             {"k=a\0b c\n\0[x]\n"s, "(k:a)"},
-                                             {"k=" + longest + "l=2\n", "(k:" + longest + ")(l:2)"}};
-    for (const auto& row : rows) {
-        WriteFile(dir / "file", row[0]);
-        EXPECT_EQ(Read(dir / "file"), "0" + row[1] + "(~:former)") << row[0];
+    const Rows<std::string, std::string> rows = {{" k = v # w\n", "(k:v)"},
+                                                 {"k=\"a b\"\nl=\"\"\n", "(k:a b)(l:)"},
+                                                 {"k='a#\"'#\n", "(k:a#\")"},
+                                                 {"E-y_1.=v", "(E-y_1.:v)"},
+                                                 {"k=b=c#d\n", "(k:b=c#d)"},
+                                                 {"\n=v\n", "(:v)"},
+                                                 {"k=é #é\n", "(k:é)"},
+                                                 {"k=1\nk=2\n", "(k:2)"},
+                                                 {"k=v\r\nl=''\r\n", "(k:v)(l:)"},
+                                                 {"k\v=\f\"'\"\t#\n", "(k:')"},
+                                                 {"\n \t\n # a=b\nk#c\nk", ""},
+                                                 {"k=a\0b c\n\0[x]\n"s, "(k:a)"},
+                                                 {"k=" + longest + "l=2\n", "(k:" + longest + ")(l:2)"}};
+    for (const auto& [text, entries] : rows) {
+        WriteFile(dir / "file", text);
+        EXPECT_EQ(Read(dir / "file"), "0" + entries + "(~:former)") << text;
     }
     const long descriptors = OpenDescriptors();
     for (const char* line :
@@ -55,13 +54,9 @@ TEST(ConfigTest, AcceptsValidLinesAndRejectsFilesWithOthers) {
 
 TEST(ConfigTest, GetIntReturnsTheLeadingDecimalNumber) {
     Config config;
-    for (const auto& [value, number] : std::map<std::string, int>{{"", 0},
-                                                                  {"+7", 7},
-                                                                  {"12abc", 12},
-                                                                  {"010", 10},
-                                                                  {" 4", 4},
-                                                                  {"4294967303", INT_MAX},
-                                                                  {"-4294967303", INT_MIN}}) {
+    const Rows<const char*, int> rows = {
+        {"", 0}, {"+7", 7}, {"12abc", 12}, {"010", 10}, {" 4", 4}, {"4294967303", INT_MAX}, {"-4294967303", INT_MIN}};
+    for (const auto& [value, number] : rows) {
         config["k"] = value;
         EXPECT_EQ(config.get_int("k"), number) << value;
     }

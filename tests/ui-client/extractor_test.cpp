@@ -80,7 +80,6 @@ TEST_F(ExtractorTest, HandlesHostileAndOddPackages) {
     const std::string outside = home / "outside";
     const std::string out = home / "out";
     const std::string deep(PATH_MAX - (home / "dest/ab").size(), '/');  // one byte more than a system call accepts
-    const bool root = getuid() == 0;
     const Rows<Text, std::vector<ArchiveMember>, int, Tree, Text> cases = {
         {"no entries", {}, -1, {}, ": Failed to calculate total file numbers, ret: 0\n"},
         {"absolute path", {{"/rooted", "x"}}, 0, {{"rooted", "x"}}, ""},
@@ -92,16 +91,12 @@ TEST_F(ExtractorTest, HandlesHostileAndOddPackages) {
         {"not UTF-8", {{"bad\xff", "x"}}, -1, {}, ": archive_entry_pathname failed"},
         {"below a file", {{"a", "x"}, {"a/b", "y"}}, -1, {{"a", "x"}}, "_extract2 failed: '"},
         {"over a directory", {{"a/b", "x"}, {"a", "y"}}, -1, {{"a", "/"}, {"a/b", "x"}}, "_extract2 failed: '"},
-        {"over an empty one", {{"a/", "", S_IFDIR}, {"a", "y"}}, 0, {{"a", "y"}}, ""},
-        {"over a file", {{"a", "x"}, {"a/", "", S_IFDIR}}, 0, {{"a", "/"}}, ""},
         {"twice", {{"a", "x"}, {"a", "y"}}, 0, {{"a", "y"}}, ""},
         {"over a link", {{"a", outside, S_IFLNK}, {"a", "y"}}, 0, {{"a", "y"}}, ""},
         {"through a link", {{"a", out, S_IFLNK}, {"a/b", "y"}}, 0, {{"a", "->out"}}, ""},
         {"hard link", {{"a", "x"}, {"b", "a", kHardLink}}, -1, {{"a", "x"}}, "'Hard-link target 'a' does"},
         {"absolute one", {{"a", outside, kHardLink}}, 0, {{"a", "outside"}}, ""},
-        {"sparse", {{"a", "x", S_IFREG, 65536}}, 0, {{"a", std::string(65536, 0) + "x"}}, ""},
         {"FIFO", {{"a", "", S_IFIFO}}, 0, {{"a", "/"}}, ""},
-        {"device", {{"a", "", S_IFCHR}}, root ? 0 : -1, root ? Tree{{"a", "/"}} : Tree(), ""},
     };
     fs::create_directory(out);
     for (const auto& [name, entries, result, tree, message] : cases) {
