@@ -73,6 +73,6 @@ void Spy(World& world, const char* how) {
 }
 
 std::string SpyOutput(const Outcome& run) {
-    QStringList lines = QString::fromStdString(run.err).split('\n').filter(QRegularExpression("^window: "));
+    QStringList lines = QString::fromStdString(run.output).split('\n').filter(QRegularExpression("^window: "));
     return lines.replaceInStrings("window: ", "").join('\n').toStdString();
 }

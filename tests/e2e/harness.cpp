@@ -95,6 +95,7 @@ void World::LogEverything() {
 std::unique_ptr<QProcess> World::Spawn(const std::function<void()>& in_child, const QStringList& arguments) const {
     auto process = std::make_unique<ChildProcess>(in_child);
     process->setProcessEnvironment(environment);
+    process->setProcessChannelMode(QProcess::MergedChannels);
     process->start(QString::fromStdString(program.empty() ? LauncherPath() : program), arguments);
     process->waitForStarted();
     return process;
@@ -104,7 +105,7 @@ Outcome World::Finish(QProcess& process) const {
     QElapsedTimer timer;
     timer.start();
     const bool exited = process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit;
-    return {exited ? process.exitCode() : -1, timer.elapsed(), process.readAllStandardError().toStdString()};
+    return {exited ? process.exitCode() : -1, timer.elapsed(), process.readAll().toStdString()};
 }
 
 pid_t World::ClientPid() const {
@@ -122,7 +123,7 @@ std::string World::Installed() const {
 }
 
 testing::AssertionResult EndedWell(const Outcome& run) {
-    return testing::AssertionResult(run.exit_code == 0) << "exit code " << run.exit_code << "\n" << run.err;
+    return testing::AssertionResult(run.exit_code == 0) << "exit code " << run.exit_code << "\n" << run.output;
 }
 
 testing::AssertionResult Succeeded(const Outcome& run, const World& world, int build) {

@@ -27,7 +27,7 @@ std::string Pack(const PackageEntries& entries);
 struct Outcome {
     int exit_code = -1;  // -1 if a signal ended it
     qint64 milliseconds = 0;
-    std::string err;
+    std::string output;  // standard output and error
 };
 
 // Everything is in one temporary directory. The destructor kills the processes that use it.

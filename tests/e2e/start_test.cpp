@@ -48,6 +48,7 @@ void Check(const Session& session) {
     EXPECT_TRUE(Succeeded(run, session.world, 1));
     EXPECT_EQ(Contains(SpyOutput(run), "on xcb"), session.shows);
     EXPECT_FALSE(Contains(session.world.Log(), "lib path"));
+    EXPECT_EQ(Contains(run.output, "lib path = '" + session.world.Plugins() + "'\n"), session.closed.empty());
     EXPECT_FALSE(fs::exists(session.world.Home() + "/started"));
 }
 
@@ -117,6 +118,7 @@ TEST(Launcher, StartsInSessionsOfManyKinds) {
         Check(session);
     }
     std::for_each(std::begin(slow), std::end(slow), Check);
+    EXPECT_TRUE(Contains(slow[0].world.Log(), "; this one has no display\n"));
     EXPECT_TRUE(server.waitForNewConnection(0));
     delete server.nextPendingConnection();
     EXPECT_FALSE(server.hasPendingConnections()) << "a second attempt with a silent display";
@@ -141,8 +143,8 @@ TEST(Launcher, StartsWithoutThreadsProcessesOrAHome) {
         }));
         EXPECT_TRUE(EndedWell(run));
         EXPECT_TRUE(has_home ? WaitFor([&] { return fs::exists(world.User() + "/open"); })
-                             : Contains(run.err, ": failed to create folder: '" + world.App()))
-            << run.err << world.Log();
+                             : Contains(run.output, ": failed to create folder: '" + world.App()))
+            << run.output << world.Log();
     }
 }
 
