@@ -180,7 +180,7 @@ TEST(Launcher, RunsOneAtATime) {
     const UniqueFd theirs(open(locks[0].c_str(), O_RDWR));
     EXPECT_EQ(flock(theirs.get(), getuid() == 0 ? LOCK_EX : LOCK_UN), 0);
     EXPECT_TRUE(EndedWell(world.Run()));
-    EXPECT_TRUE(is_logged("app has already launched, return", 3));
+    EXPECT_TRUE(is_logged(": app has already launched, return\n", 3));
 
     // A launcher of another bundle waits.
     world.program = world.dir / "Other.app/Contents/MacOS/launcher";
@@ -189,7 +189,7 @@ TEST(Launcher, RunsOneAtATime) {
         const std::string waits = "-> FLOCK  ADVISORY  WRITE " + std::to_string(LauncherOf(*other)) + " ";  // proc(5)
         return Contains(ReadFile("/proc/locks"), waits);
     }));
-    EXPECT_TRUE(is_logged("waiting for '", 1));
+    EXPECT_TRUE(is_logged(": waiting for '", 1));
     deliver_package();
     EXPECT_TRUE(Succeeded(world.Finish(*first), world, 2));
     EXPECT_TRUE(Succeeded(world.Finish(*other), world, 2));

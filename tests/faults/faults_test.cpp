@@ -251,24 +251,29 @@ TEST_P(Faults, LoseNothingAndTheNextRunMendsThem) {
     std::cout << calls << " calls, " << points << " points\n";
 }
 
-// The working process dies each time it writes into the new copy. The third attempt opens the old one.
-TEST(Supervisor, PutsTheOldCopyBackWhenEachAttemptDies) {
-    World world;
-    world.Have(1);
-    WriteFile(world.Client(), "#!/bin/sh\necho old >\"$HOME/opened\"\n");
-    world.Offer(2);
-    int deaths = 0;
-    const int ended = RunIntercepted(world, {world.Client()}, [&](const FileCall& call) {
-        const bool unpacks = call.what == kMake;
-        deaths += unpacks ? 1 : 0;
-        return unpacks ? kKillLauncher : kGoOn;
-    });
-    EXPECT_EQ(ended, 0);
-    EXPECT_EQ(deaths, 2);
-    EXPECT_EQ(world.Installed(), "1");
-    EXPECT_EQ(ReadFile(world.Home() + "/opened"), "old\n");
-    EXPECT_FALSE(fs::exists(world.App() + "_tmp"));
-    EXPECT_TRUE(Contains(world.Log(), "was ended by a signal (Killed) during the run; this one puts")) << world.Log();
+// The working process dies each time it writes into the new copy. The second attempt finds a damaged package, or the
+// third one opens the client without an upgrade.
+TEST(Supervisor, PutsTheOldCopyBackWhenAttemptsDie) {
+    for (const bool damaged : {true, false}) {
+        SCOPED_TRACE(damaged);
+        World world;
+        world.Have(1);
+        WriteFile(world.Client(), "#!/bin/sh\necho old >\"$HOME/opened\"\n");
+        world.Offer(2);
+        int deaths = 0;
+        const int ended = RunIntercepted(world, {world.Client()}, [&](const FileCall& call) {
+            if (call.what != kMake) { return kGoOn; }
+            if (damaged) { WriteFile(world.Package(), "damaged"); }
+            ++deaths;
+            return kKillLauncher;
+        });
+        EXPECT_EQ(ended, 0);
+        EXPECT_EQ(deaths, damaged ? 1 : 2);
+        EXPECT_EQ(world.Installed(), "1");
+        EXPECT_EQ(ReadFile(world.Home() + "/opened"), "old\n");
+        EXPECT_FALSE(fs::exists(world.App() + "_tmp"));
+        EXPECT_EQ(Contains(world.Log(), "(Killed) during the run; this one puts the old"), !damaged) << world.Log();
+    }
 }
 
 TEST(Supervisor, IgnoresALimitOfTheSizeOfAFile) {
