@@ -53,7 +53,7 @@ TEST_F(ServiceTest, DecidesAndStopsTheClient) {
         EXPECT_FALSE(fs::exists(App() + layout::kBackupSuffix));
         EXPECT_EQ(service.stops, present ? 1 : 0);
     }
-    EXPECT_EQ(LogLines("user installation is ready, removing backup app\n"), 10);
+    EXPECT_EQ(LogLines(": user installation is ready, removing backup app\n"), 10);
 }
 
 // A home that is a symbolic link, a copy without its executable, a bundle without a package.
@@ -119,10 +119,10 @@ TEST_F(ServiceTest, CopiesTrees) {
     EXPECT_EQ(copy("none", "x"), -1);
     EXPECT_EQ(copy("from", "to/plain"), -1);
     EXPECT_EQ(service.FSCopyPath("", "x"), -1);
-    EXPECT_EQ(LogLines("FSCopyPath: failed to copy from"), 3);  // one for each level
-    EXPECT_EQ(LogLines("FSCopyPath: source path '"), 1);
-    EXPECT_EQ(LogLines("FSCopyPath: failed to create dest folder"), 1);
-    EXPECT_EQ(LogLines("FSCopyPath: failed to stat source ''"), 1);
+    EXPECT_EQ(LogLines(": FSCopyPath: failed to copy from"), 3);  // one for each level
+    EXPECT_EQ(LogLines(": FSCopyPath: source path '"), 1);
+    EXPECT_EQ(LogLines(": FSCopyPath: failed to create dest folder"), 1);
+    EXPECT_EQ(LogLines(": FSCopyPath: failed to stat source ''"), 1);
 }
 
 // Copies are contents of INFO by the suffix of the copy's name. Later ones of `before` were moved later.
@@ -171,7 +171,7 @@ TEST_F(ServiceTest, ReportsAFileInPlaceOfTheUserDirectory) {
     EXPECT_EQ(service.PrepareUserEnv(), -1);
     EXPECT_EQ(LogLines(": source does not exist\n"), 1);
     EXPECT_EQ(LogLines(": failed to create folder: '"), 1);
-    EXPECT_EQ(LogLines("Failed to extract package, and no old installation to rollback\n"), 1);
+    EXPECT_EQ(LogLines(": Failed to extract package, and no old installation to rollback\n"), 1);
 }
 
 TEST_F(ServiceTest, KeepsCopiesWithoutPermission) {
@@ -184,7 +184,7 @@ TEST_F(ServiceTest, KeepsCopiesWithoutPermission) {
     InChild(BecomeLoner, [&] { EXPECT_EQ(service.FSCopyPath((home / "from").c_str(), (home / "to").c_str()), 0); });
     EXPECT_EQ(ReadFile(home / "to/open"), "open");
     EXPECT_TRUE(fs::is_empty(home / "to/closed"));
-    EXPECT_EQ(LogLines("[WARNING] quillmere-service("), 1);
+    EXPECT_EQ(LogLines(" [WARNING] quillmere-service("), 1);
     // A copy that a rollback cannot remove loses its version at least.
     WriteFile(App() + "/mark", "old");
     fs::permissions(home / ".Quillmere", fs::perms::all);
@@ -206,6 +206,6 @@ TEST_F(ServiceTest, KeepsCopiesWithoutPermission) {
     EXPECT_EQ(ReadFile(App() + "_tmp/mark"), "old");
     fs::permissions(home / ".Quillmere", fs::perms::none);
     InChild(BecomeLoner, [&] { EXPECT_EQ(service.PrepareUserEnv(), -1); });
-    EXPECT_EQ(LogLines("failed to backup app from '"), 11);
+    EXPECT_EQ(LogLines(": failed to backup app from '"), 11);
     EXPECT_EQ(LogLines("Quillmere.app_tmp9' at max retries, exiting\n"), 1);
 }
