@@ -130,6 +130,8 @@ TEST_F(ExtractorTest, ReportsMissingFilesAndArguments) {
         extractor.m_source = source.c_str();
         extractor.m_dest = dest.c_str();
         EXPECT_EQ(extractor.Count(), -1);
+        EXPECT_EQ(extractor.List(), -1);
+        EXPECT_EQ(LogLines(": Invalid argument\n"), lines == 1 ? 2 : 0);
         EXPECT_EQ(ExtractAfresh(), -1);
         EXPECT_EQ(LogLines("ERROR"), lines);
         EXPECT_EQ(LogLines(log), 1);
