@@ -146,10 +146,11 @@ TEST_F(ServiceTest, RepairsWhatADeadAttemptLeft) {
         fs::remove_all(home / ".Quillmere");
         struct stat former = {}, status = {};
         for (const auto& [suffix, info] : before) {
-            WriteFile(App() + suffix + kInfo, info);
+            const std::string copy = App() + suffix;
+            WriteFile(copy + kInfo, info);
             do {
-                fs::permissions(App() + suffix, fs::perms::owner_all);
-                stat((App() + suffix).c_str(), &status);
+                fs::permissions(copy, fs::perms::owner_all);
+                stat(copy.c_str(), &status);
             } while (status.st_ctim.tv_sec == former.st_ctim.tv_sec &&
                      status.st_ctim.tv_nsec == former.st_ctim.tv_nsec);
             former = status;
