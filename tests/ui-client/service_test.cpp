@@ -135,11 +135,8 @@ TEST_F(ServiceTest, RepairsWhatADeadAttemptLeft) {
         {Stage::kMoved, 2, {{"", v2}, {"_tmp", v1}}, {{"", v2}, {"_tmp", v1}}},
         {Stage::kMoved, 2, {{"_tmp", v1}, {"_tmp1", ""}}, {{"", v1}}},
         {Stage::kStarted, 0, {{"", v2}, {"_tmp", v1}}, {{"", v2}, {"_tmp", v1}}},
-        {Stage::kStarted,
-         0,
-         {{"", ""}, {"_tmp", v1}, {"_tmp9", v2}, {"_tmp3", "x"}},
-         {{"", v2}, {"_tmp", v1}, {"_tmp3", "x"}}},
-        {Stage::kStarted, 0, {{"_tmp9", v1}, {"_tmp", v2}}, {{"", v2}, {"_tmp9", v1}}},
+        {Stage::kStarted, 0, {{"_tmp", v1}, {"_tmp9", v2}, {"_tmp3", "x"}}, {{"", v2}, {"_tmp", v1}, {"_tmp3", "x"}}},
+        {Stage::kStarted, 0, {{"", ""}, {"_tmp9", v1}, {"_tmp", v2}}, {{"", v2}, {"_tmp9", v1}}},
         {Stage::kStarted, 0, {{"", ""}, {"_tmp", ""}}, {{"", ""}, {"_tmp", ""}}},
     };
     for (const auto& [reached, backups, before, after] : cases) {
