@@ -1,6 +1,7 @@
 // A plug-in that Qt loads for QT_QPA_GENERIC_PLUGINS=spy. It writes what the progress window does to
 // standard error. "spy:exit" ends the process, as Qt does if the display disappears during the
 // construction of the application object.
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QEvent>
@@ -36,14 +37,15 @@ void OnShow(const QProgressDialog& dialog) {
     const auto label = dialog.findChild<QLabel*>();
     const auto bar = dialog.findChild<QProgressBar*>();
     Report(dialog.windowTitle() + ", " + label->text());
-    Report(QString("%1 pixels on %2, modal: %7, icon of %3, %4 on %5, cut off:%6")
+    Report(QString("%1 pixels on %2, modal: %7, buttons: %8, icon of %3, %4 on %5, cut off:%6")
                .arg(qRound(dialog.width() * dialog.devicePixelRatioF() / 10) * 10)
                .arg(QGuiApplication::platformName())
                .arg(dialog.windowIcon().actualSize({500, 500}).width())
                .arg(label->palette().windowText().color().name())
                .arg(bar->palette().base().color().name())
                .arg(CutOff(*label))
-               .arg(dialog.isModal()));
+               .arg(dialog.isModal())
+               .arg(dialog.findChildren<QAbstractButton*>().size()));
     label->setText("overwritten");
     QObject::connect(bar, &QProgressBar::valueChanged, [label, bar](int value) {
         Report(QString("%1, %2").arg(value).arg(label->text()));
