@@ -127,6 +127,12 @@ int statfs(const char* path, struct statfs* volume) noexcept {
     return result;
 }
 
+int lstat(const char* path, struct stat* status) noexcept {
+    const int result = fstatat(AT_FDCWD, path, status, AT_SYMLINK_NOFOLLOW);
+    if (g.device != 0) { status->st_dev = g.device; }
+    return result;
+}
+
 time_t time(time_t* now) noexcept {
     timespec present = {};
     clock_gettime(CLOCK_REALTIME, &present);

@@ -17,6 +17,7 @@ struct Hooks {
     bool leave_holes = false;  // write(2) skips blocks of zeros
     int fsync_error = 0;
     unsigned long volume_type = 0;  // statfs(2)
+    dev_t device = 0;               // lstat(2)
     std::time_t now = 0;            // time(2), gettimeofday(2)
     // Run once, before the next call.
     std::function<void()> before_flock;

@@ -27,6 +27,7 @@ TEST(ConfigTest, AcceptsValidLinesAndRejectsFilesWithOthers) {
                                                  {"k='a#\"'#\n", "(k:a#\")"},
                                                  {"E-y_1.=v", "(E-y_1.:v)"},
                                                  {"k=b=c#d\n", "(k:b=c#d)"},
+                                                 {"k = #c\n", "(k:#c)"},
                                                  {"\n=v\n", "(:v)"},
                                                  {"k=é #é\n", "(k:é)"},
                                                  {"k=1\nk=2\n", "(k:2)"},
