@@ -6,7 +6,8 @@
 #include "tools/qpk/entry.h"
 #include "tools/qpk/message.h"
 
-// Checks the package's entries, then installs and removes it in a temporary directory with the
-// launcher's own code. `bundle` is the bundle of the package, "" for none. Result: all faults;
-// empty for a good package. Throws as ReadPackage does.
+// Checks the package's entries. If they have no fault, installs and removes it in a temporary
+// directory with the launcher's own code; an entry with a fault could change other files. `bundle`
+// is the bundle of the package, "" for none. Result: the faults; empty for a good package. Throws
+// as ReadPackage does.
 Findings CheckPackage(const std::string& package, const std::string& bundle);
