@@ -21,7 +21,7 @@ case $qt in
 esac
 packages=(
   "${build_packages[@]}"
-  libgtest-dev zstd python3 mount util-linux procps
+  libgtest-dev libseccomp-dev zstd python3 mount util-linux procps
   xvfb openbox xdotool x11-utils imagemagick fonts-liberation fonts-dejavu-core fonts-noto-cjk
 )
 

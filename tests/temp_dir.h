@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <sstream>
 #include <string>
 
@@ -41,6 +42,20 @@ inline std::string ReadFile(const std::string& path) {
     std::ostringstream content;
     content << std::ifstream(path, std::ios::binary).rdbuf();
     return content.str();
+}
+
+// Contents by path: "/" for a directory, "->" and the target's name for a link.
+using Tree = std::map<std::string, std::string>;
+
+inline Tree Look(const std::string& directory) {
+    Tree tree;
+    for (const auto& file : std::filesystem::recursive_directory_iterator(directory)) {
+        tree[file.path().lexically_relative(directory)] =
+            file.is_symlink()        ? "->" + std::filesystem::read_symlink(file).filename().string()
+            : file.is_regular_file() ? ReadFile(file.path())
+                                     : "/";
+    }
+    return tree;
 }
 
 // proc(5)

@@ -31,47 +31,23 @@ PackageEntries Client(char build) {
             {kInfo, "[Version]\nbuild_version=" + std::string(1, build) + "\n"}};
 }
 
-// Complete directories. Others are "torn", or "torn, with a version".
-const std::map<std::string, PackageEntries> kKinds{{"old", Client('1')},
-                                                   {"new", Client('2')},
-                                                   {"no version", {{kExecutable, ""}}},
-                                                   {"empty", {}},
-                                                   {"somebody's", {{"file", "x"}}}};
+const PackageEntries kOld = Client('1'), kNew = Client('2'), kNoVersion{{kExecutable, ""}}, kSomebodys{{"file", "x"}};
 
-using User = std::map<std::string, std::string>;  // kinds of directories by name
-
-// The names of backups, in the order in which an upgrade tries them.
-const char* const kBackups[] = {"Quillmere.app_tmp",  "Quillmere.app_tmp1", "Quillmere.app_tmp2", "Quillmere.app_tmp3",
-                                "Quillmere.app_tmp4", "Quillmere.app_tmp5", "Quillmere.app_tmp6", "Quillmere.app_tmp7",
-                                "Quillmere.app_tmp8", "Quillmere.app_tmp9"};
-
-User TenNames() {
-    User user{{kApp, "old"}};
-    for (const char* const backup : kBackups) { user[backup] = "somebody's"; }
-    return user;
-}
-
-enum Package { kGood, kCutShort, kOverQuota };  // a quota that only the last flush reports
+using User = std::map<std::string, PackageEntries>;  // directories by name
+using Trees = std::map<std::string, Tree>;
 
 const struct Scenario {
     const char* name;
-    User start;
-    User after;  // an undisturbed run
-    Package package = kGood;
+    User start, after;  // of an undisturbed run
+    bool damaged = false;
 } kScenarios[] = {
-    {"FirstInstall", {}, {{kApp, "new"}}},
-    {"Upgrade", {{kApp, "old"}}, {{kApp, "new"}}},
+    {"FirstInstall", {}, {{kApp, kNew}}},
+    {"Upgrade", {{kApp, kOld}}, {{kApp, kNew}}},
     {"UpgradeOverLeftovers",
-     {{kApp, "no version"}, {kBackups[0], "old"}, {kBackups[7], "somebody's"}},
-     {{kApp, "new"}, {kBackups[7], "somebody's"}}},
-    {"CurrentCopy", {{kApp, "new"}, {kBackups[0], "old"}}, {{kApp, "new"}, {kBackups[0], "old"}}},
-    {"TenNamesTaken", TenNames(), TenNames()},
-    {"DamagedPackage", {{kApp, "old"}}, {{kApp, "old"}}, kCutShort},
-    {"DamagedAfterAnInterruption",
-     {{kApp, "no version"}, {kBackups[0], "old"}},
-     {{kApp, "no version"}, {kBackups[0], "old"}},
-     kCutShort},
-    {"OverQuota", {{kApp, "old"}}, {{kApp, "old"}}, kOverQuota},
+     {{kApp, kNoVersion}, {"Quillmere.app_tmp", kOld}, {"Quillmere.app_tmp7", kSomebodys}},
+     {{kApp, kNew}, {"Quillmere.app_tmp7", kSomebodys}}},
+    {"CurrentCopy", {{kApp, kNew}, {"Quillmere.app_tmp", kOld}}, {{kApp, kNew}, {"Quillmere.app_tmp", kOld}}},
+    {"DamagedPackage", {{kApp, kOld}}, {{kApp, kOld}}, true},
 };
 
 void PrintTo(const Scenario& row, std::ostream* out) { *out << row.name; }
@@ -88,7 +64,6 @@ std::vector<Fault> AllFaults() {
     std::vector<Fault> faults{
         {"killed", kKillBoth},
         {"killed, power cut", kKillBoth, false, true},
-        {"killed twice", kKillBoth, false, false, true},
         {"killed twice, power cut", kKillBoth, false, true, true},
         {"launcher killed", kKillLauncher},
         {"each launcher killed", kKillLauncher, true},
@@ -101,52 +76,39 @@ std::vector<Fault> AllFaults() {
     return faults;
 }
 
-std::string KindOf(const fs::path& directory) {
-    PackageEntries files;
-    for (const auto& file : fs::recursive_directory_iterator(directory)) {
-        if (!file.is_directory()) {
-            files.emplace_back(file.path().lexically_relative(directory), ReadFile(file.path()));
-        }
+void Write(const fs::path& directory, const PackageEntries& files) {
+    for (const auto& [path, content] : files) {
+        WriteFile(directory / path, content);
+        fs::permissions(directory / path, fs::perms(0755));
     }
-    std::sort(files.begin(), files.end());
-    const auto kind = std::find_if(kKinds.begin(), kKinds.end(), [&](const auto& row) { return row.second == files; });
-    const bool bare = files.empty() && !fs::is_empty(directory);
-    const bool version = ReadFile(directory / kInfo).find("build_version=") != std::string::npos;
-    return kind != kKinds.end() && !bare ? kind->first : version ? "torn, with a version" : "torn";
+}
+
+Tree TreeOf(const PackageEntries& files) {
+    const TempDir dir;
+    Write(dir.path(), files);
+    return Look(dir.path());
 }
 
 class Faults : public testing::TestWithParam<Scenario> {
   protected:
-    void Offer(Package package) {
-        world_.Offer(2, package == kCutShort ? whole_.substr(0, whole_.size() * 4 / 5) : whole_);
-        package_ = package;
-    }
-
-    void Put(const User& user) const {
+    Trees Put(const User& user) const {
         fs::remove_all(world_.User());
-        for (const auto& [name, kind] : user) {
-            const fs::path directory = fs::path(world_.User()) / name;
-            fs::create_directories(directory);
-            for (const auto& [path, content] : kKinds.at(kind)) {
-                WriteFile(directory / path, content);
-                fs::permissions(directory / path, fs::perms(0755));
-            }
-        }
+        Write(world_.User() + "/data", kSomebodys);
+        for (const auto& [name, files] : user) { Write(fs::path(world_.User()) / name, files); }
+        return Get();
     }
 
-    User Get() const {
-        User user;
-        for (const auto& entry : fs::directory_iterator(world_.User())) {
-            if (entry.is_directory() && entry.path().filename() != "log") {
-                user[entry.path().filename()] = KindOf(entry);
-            }
+    Trees Get() const {
+        Trees trees;
+        for (const fs::path& entry : fs::directory_iterator(world_.User())) {
+            if (fs::is_directory(entry) && entry.filename() != "log") { trees[entry.filename()] = Look(entry); }
         }
-        return user;
+        return trees;
     }
 
     // One run with the fault at this call. Checks what must hold after every run.
     void Run(const Fault& fault = {}, int at = 0) {
-        calls_ = flushes_ = 0;
+        calls_ = 0;
         unflushed_.clear();
         fs::remove(world_.Home() + "/opened");
         const std::string resources = world_.Bundle() + "/Contents/Resources/";
@@ -163,7 +125,7 @@ class Faults : public testing::TestWithParam<Scenario> {
         const bool each_attempt_dies = fault.answer == kKillLauncher && fault.at_later_calls;
         CheckCopies(!killed && !each_attempt_dies);
         // The same start continues after its working process was killed.
-        if (fault.answer == kKillLauncher && !fault.at_later_calls && package_ == kGood) { EXPECT_EQ(Get(), after_); }
+        if (fault.answer == kKillLauncher && !fault.at_later_calls && !damaged_) { EXPECT_EQ(Get(), after_); }
     }
 
     void LosePower() const {
@@ -173,17 +135,15 @@ class Faults : public testing::TestWithParam<Scenario> {
     }
 
     void CheckCopies(bool opens) const {
-        User now = Get();
-        const auto has_whole_copy = [](const User& user) {
-            return std::any_of(user.begin(), user.end(),
-                               [](auto& row) { return row.second == "old" || row.second == "new"; });
-        };
-        EXPECT_TRUE(has_whole_copy(now) || !has_whole_copy(start_)) << "no whole copy is left";
-        EXPECT_NE(now[kApp], "torn, with a version");
-        const std::string opened = ReadFile(world_.Home() + "/opened");
-        EXPECT_TRUE(!opens || now[kApp] != "old" || opened == "1\n");
-        EXPECT_TRUE(!opens || now[kApp] != "new" || opened == "2\n");
-        for (const auto& [name, kind] : start_) { EXPECT_TRUE(kind != "somebody's" || now[name] == kind) << name; }
+        Trees now = Get();
+        const auto is_whole = [&](const auto& row) { return row.second == old_ || row.second == new_; };
+        EXPECT_TRUE(std::any_of(now.begin(), now.end(), is_whole) ||
+                    std::none_of(start_.begin(), start_.end(), is_whole))
+            << "no whole copy is left";
+        const std::string build = now[kApp] == old_ ? "1\n" : now[kApp] == new_ ? "2\n" : "";
+        EXPECT_TRUE(!build.empty() || !Contains(now[kApp][kInfo], "build_version=")) << "torn, with a version";
+        EXPECT_TRUE(!opens || build.empty() || ReadFile(world_.Home() + "/opened") == build);
+        for (const auto& [name, tree] : start_) { EXPECT_TRUE(tree != somebodys_ || now[name] == tree) << name; }
     }
 
     // Written files survive a power cut after the next flush. INFO and the removal of a backup come after a flush.
@@ -191,7 +151,6 @@ class Faults : public testing::TestWithParam<Scenario> {
         const bool of_copy = call.path.rfind(world_.App() + "/", 0) == 0;
         const bool of_backup = call.path.rfind(world_.App() + "_tmp", 0) == 0;
         if (call.what == kFlush) {
-            if (++flushes_ == 2 && package_ == kOverQuota) { return -EDQUOT; }
             unflushed_.clear();
             return kSuccessWithoutIt;
         }
@@ -206,13 +165,11 @@ class Faults : public testing::TestWithParam<Scenario> {
 
     std::string InfoPath() const { return world_.App() + "/" + kInfo; }
 
-    const std::string whole_ = Pack(kKinds.at("new"));
+    const Tree old_ = TreeOf(kOld), new_ = TreeOf(kNew), somebodys_ = TreeOf(kSomebodys);
     World world_;
-    User start_ = GetParam().start;
-    User after_ = GetParam().after;
-    Package package_ = kGood;
+    Trees start_, after_;
+    bool damaged_ = GetParam().damaged;
     int calls_ = 0;
-    int flushes_ = 0;
     std::set<std::string> unflushed_;
 };
 
@@ -222,9 +179,10 @@ TEST_P(Faults, LoseNothingAndTheNextRunMendsThem) {
     const std::string wanted = qEnvironmentVariable("QUILLMERE_FAULTS").toStdString();
     const int stride = wanted.empty() ? 263 : 1;
     const std::vector<Fault> faults = AllFaults();
-    start_["data"] = after_["data"] = "somebody's";
-    Put(start_);
-    Offer(GetParam().package);
+    const std::string whole = Pack(kNew), offered = damaged_ ? whole.substr(0, whole.size() * 4 / 5) : whole;
+    after_ = Put(GetParam().after);
+    start_ = Put(GetParam().start);
+    world_.Offer(2, offered);
     Run();
     EXPECT_EQ(Get(), after_);
     EXPECT_TRUE(start_.count(kApp) == 0 || unflushed_.empty()) << "not on the disk at the end";
@@ -236,68 +194,69 @@ TEST_P(Faults, LoseNothingAndTheNextRunMendsThem) {
         if (!wanted.empty() && wanted != "all" && wanted != fault.name) { continue; }
         SCOPED_TRACE(fault.name + " at call " + std::to_string(at));
         ++points;
-        Put(start_);
+        Put(GetParam().start);
         Run(fault, at);
         if (fault.in_the_next_run) { Run(fault, 1 + at * 7 % calls); }
         Run();
-        if (GetParam().package != kGood) {
-            Offer(kGood);
+        if (damaged_) {
+            world_.Offer(2, whole);
             Run();
-            Offer(GetParam().package);
+            world_.Offer(2, offered);
         }
-        EXPECT_EQ(Get().at(kApp), GetParam().package == kGood ? after_.at(kApp) : "new");
+        EXPECT_EQ(Get().at(kApp), new_);
     }
     EXPECT_GT(points, 0) << "no such fault";
     std::cout << calls << " calls, " << points << " points\n";
 }
 
-// The working process dies before some calls. The package may be damaged after the first death.
-TEST(Supervisor, LosesNoCopyWhenAttemptsDie) {
+// Some calls fail, or the working process dies before them. The package may be damaged at the first one.
+TEST(Supervisor, LosesNoCopyWhenAttemptsFail) {
     const struct {
         const char* name;
         What what;         // the call
         const char* path;  // after that of the copy
-        int skipped_calls, deaths;
+        int skipped_calls, faults, fault;
         bool damaged;
         std::string build;  // at the end
     } cases[] = {
-        {"unpacking", kMake, "/Contents/MacOS/", 0, 1, true, "1"},
-        {"unpacking each time", kMake, "/Contents/MacOS/", 0, 2, false, "1"},
-        {"version not flushed", kFlush, "", 1, 1, false, "2"},
-        {"backup without a version", kRemove, "_tmp/", 1, 1, true, "2"},
+        {"unpacking", kMake, "/Contents/MacOS/", 0, 1, kKillLauncher, true, "1"},
+        {"unpacking each time", kMake, "/Contents/MacOS/", 0, 2, kKillLauncher, false, "1"},
+        {"version not flushed", kFlush, "", 1, 1, kKillLauncher, false, "2"},
+        {"backup without a version", kRemove, "_tmp/", 1, 1, kKillLauncher, true, "2"},
+        {"over quota at the last flush", kFlush, "", 1, 1, -EDQUOT, false, "1"},
     };
     for (const auto& row : cases) {
         SCOPED_TRACE(row.name);
         World world;
         world.Have(1);
         WriteFile(world.Client(), "#!/bin/sh\necho 1 >\"$HOME/opened\"\n");
-        world.Offer(2, Pack(kKinds.at("new")));
-        int calls = 0, deaths = 0;
+        world.Offer(2, Pack(kNew));
+        int calls = 0, faults = 0;
         const int ended = RunIntercepted(world, {world.App() + row.path}, [&](const FileCall& call) {
-            if (call.what != row.what || ++calls <= row.skipped_calls || deaths == row.deaths) { return kGoOn; }
+            if (call.what != row.what || ++calls <= row.skipped_calls || faults == row.faults) { return int{kGoOn}; }
             if (row.damaged) { WriteFile(world.Package(), "damaged"); }
-            ++deaths;
-            return kKillLauncher;
+            ++faults;
+            return row.fault;
         });
         EXPECT_EQ(ended, 0);
-        EXPECT_EQ(deaths, row.deaths);
+        EXPECT_EQ(faults, row.faults);
         EXPECT_EQ(world.Installed(), row.build);
         EXPECT_EQ(ReadFile(world.Home() + "/opened"), row.build + "\n");
         EXPECT_FALSE(fs::exists(world.App() + "_tmp"));
         const std::string cause = "was ended by a signal (Killed) during the run; this one has no display and puts";
-        EXPECT_TRUE(Contains(world.Log(), cause)) << world.Log();
+        EXPECT_EQ(Contains(world.Log(), cause), row.fault == kKillLauncher) << world.Log();
     }
 }
 
 TEST(Supervisor, IgnoresALimitOfTheSizeOfAFile) {
     World world;
-    world.Offer(1, Pack(kKinds.at("old")));
+    world.Offer(1, Pack(kOld));
     EXPECT_EQ(world.Run().exit_code, 0);
-    world.Offer(2, Pack(kKinds.at("new")));
+    world.Offer(2, Pack(kNew));
     const rlimit limit{100000, 100000};
     const auto start = world.Spawn([&] { setrlimit(RLIMIT_FSIZE, &limit); });
     EXPECT_TRUE(EndedWell(world.Finish(*start)));
-    EXPECT_EQ(KindOf(world.App()), "old");
+    EXPECT_EQ(Look(world.App()), TreeOf(kOld));
     EXPECT_FALSE(Contains(world.Log(), "[WARNING]")) << "a signal ended the working process";
 }
 

@@ -3,20 +3,19 @@
 #pragma once
 
 #include <fcntl.h>
-#include <linux/filter.h>
-#include <linux/seccomp.h>
 #include <poll.h>
+#include <seccomp.h>
 #include <sys/ioctl.h>
 #include <sys/prctl.h>
 #include <sys/syscall.h>
-#include <sys/uio.h>
 #include <sys/wait.h>
 
 #include <algorithm>
-#include <cstdint>
 
 #include "e2e/harness.h"
 #include "unique-fd.h"
+
+namespace fs = std::filesystem;
 
 enum What { kLook, kOpen, kMake, kWrite, kChange, kRename, kRemove, kFlush };
 
@@ -35,46 +34,28 @@ enum : int {
 };
 
 // The calls on files, each with the index of its path argument; -1 for a descriptor.
-constexpr struct FileCallNumber {
-    unsigned number;
+constexpr struct FileCallName {
+    const char* name;
     int path;
     What what;
 } kFileCalls[] = {
-#ifdef SYS_open  // not on newer processors
-    {SYS_open, 0, kOpen},      {SYS_stat, 0, kLook},           {SYS_lstat, 0, kLook},       {SYS_access, 0, kLook},
-    {SYS_readlink, 0, kLook},  {SYS_mkdir, 0, kChange},        {SYS_chmod, 0, kChange},     {SYS_symlink, 1, kChange},
-    {SYS_link, 1, kChange},    {SYS_rename, 0, kRename},       {SYS_rmdir, 0, kRemove},     {SYS_unlink, 0, kRemove},
-#endif
-#ifdef SYS_fstatat64  // where a long has 32 bits
-    {SYS_fstatat64, 1, kLook}, {SYS_stat64, 0, kLook},         {SYS_lstat64, 0, kLook},     {SYS_fstat64, -1, kLook},
-    {SYS__llseek, -1, kLook},  {SYS_ftruncate64, -1, kChange},
-#else
-    {SYS_newfstatat, 1, kLook},
-#endif
-    {SYS_openat, 1, kOpen},    {SYS_statx, 1, kLook},          {SYS_faccessat, 1, kLook},   {SYS_readlinkat, 1, kLook},
-    {SYS_mkdirat, 1, kChange}, {SYS_renameat, 1, kRename},     {SYS_renameat2, 1, kRename}, {SYS_unlinkat, 1, kRemove},
-    {SYS_read, -1, kLook},     {SYS_lseek, -1, kLook},         {SYS_fstat, -1, kLook},      {SYS_getdents64, -1, kLook},
-    {SYS_write, -1, kWrite},   {SYS_ftruncate, -1, kChange},   {SYS_fchmod, -1, kChange},   {SYS_fsync, -1, kChange},
-    {SYS_syncfs, -1, kFlush}};
+    {"open", 0, kOpen},         {"openat", 1, kOpen},         {"stat", 0, kLook},        {"lstat", 0, kLook},
+    {"stat64", 0, kLook},       {"lstat64", 0, kLook},        {"fstat", -1, kLook},      {"fstat64", -1, kLook},
+    {"fstatat64", 1, kLook},    {"newfstatat", 1, kLook},     {"statx", 1, kLook},       {"access", 0, kLook},
+    {"faccessat", 1, kLook},    {"readlink", 0, kLook},       {"readlinkat", 1, kLook},  {"read", -1, kLook},
+    {"lseek", -1, kLook},       {"_llseek", -1, kLook},       {"getdents64", -1, kLook}, {"write", -1, kWrite},
+    {"ftruncate", -1, kChange}, {"ftruncate64", -1, kChange}, {"chmod", 0, kChange},     {"fchmod", -1, kChange},
+    {"fsync", -1, kChange},     {"mkdir", 0, kChange},        {"mkdirat", 1, kChange},   {"link", 1, kChange},
+    {"symlink", 1, kChange},    {"rename", 0, kRename},       {"renameat", 1, kRename},  {"renameat2", 1, kRename},
+    {"rmdir", 0, kRemove},      {"unlink", 0, kRemove},       {"unlinkat", 1, kRemove},  {"syncfs", -1, kFlush}};
 
-// Starts the interception. Result: the descriptor of the notifications, or -1.
+// Starts the interception. Result: the descriptor of the notifications, or negative.
 inline int InstallFilter() {
-    std::vector<sock_filter> code{BPF_STMT(BPF_LD | BPF_W | BPF_ABS, 0)};  // the call's number
+    const scmp_filter_ctx filter = seccomp_init(SCMP_ACT_ALLOW);
     for (const auto& call : kFileCalls) {
-        code.push_back(BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, call.number, 0, 1));
-        code.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_USER_NOTIF));
+        seccomp_rule_add(filter, SCMP_ACT_NOTIFY, seccomp_syscall_resolve_name(call.name), 0);
     }
-    code.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));
-    const sock_fprog program{static_cast<unsigned short>(code.size()), code.data()};
-    prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
-    return static_cast<int>(syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, SECCOMP_FILTER_FLAG_NEW_LISTENER, &program));
-}
-
-// The process of a thread (proc(5)).
-inline pid_t ProcessOf(pid_t thread) {
-    const std::string status = ReadFile("/proc/" + std::to_string(thread) + "/status");
-    const std::size_t line = status.find("\nTgid:");
-    return line == std::string::npos ? 0 : std::atoi(status.c_str() + line + 6);
+    return seccomp_load(filter) == 0 ? seccomp_notify_fd(filter) : -1;
 }
 
 // Duplicates a descriptor of another process.
@@ -83,25 +64,22 @@ inline int Borrow(pid_t process, int fd) {
     return static_cast<int>(syscall(SYS_pidfd_getfd, handle.get(), fd, 0));
 }
 
-// A text that ends with a NUL, or with the memory.
-inline std::string ReadText(pid_t process, __u64 address) {
-    char text[4097] = {};
-    const iovec here{text, sizeof text - 1};
-    const iovec there{reinterpret_cast<void*>(static_cast<std::uintptr_t>(address)), here.iov_len};
-    return process_vm_readv(process, &here, 1, &there, 1, 0) < 0 ? "" : text;
-}
-
-inline FileCall Describe(pid_t process, const seccomp_data& data) {
-    const auto call = std::find_if(std::begin(kFileCalls), std::end(kFileCalls),
-                                   [&](auto& row) { return static_cast<int>(row.number) == data.nr; });
-    std::string path = call->path < 0 ? "" : ReadText(process, data.args[call->path]);
+inline FileCall Describe(const seccomp_notif& request) {
+    const auto call = std::find_if(std::begin(kFileCalls), std::end(kFileCalls), [&](auto& row) {
+        return seccomp_syscall_resolve_name(row.name) == request.data.nr;
+    });
+    const fs::path process = "/proc/" + std::to_string(request.pid);
+    std::string path;
+    if (call->path >= 0) {
+        std::ifstream memory(process / "mem");
+        std::getline(memory.seekg(static_cast<std::streamoff>(request.data.args[call->path])), path, '\0');
+    }
     if (path.empty() || path[0] != '/') {  // relative to a directory descriptor
         std::error_code none;
-        const std::string fd = std::to_string(static_cast<int>(data.args[0]));
-        const std::string link = "/proc/" + std::to_string(process) + "/fd/" + fd;
-        path = std::filesystem::read_symlink(link, none).string() + (path.empty() ? "" : "/" + path);
+        const std::string fd = std::to_string(static_cast<int>(request.data.args[0]));
+        path = fs::read_symlink(process / "fd" / fd, none).string() + (path.empty() ? "" : "/" + path);
     }
-    const bool makes = call->what == kOpen && (data.args[call->path + 1] & O_CREAT) != 0;
+    const bool makes = call->what == kOpen && (request.data.args[call->path + 1] & O_CREAT) != 0;
     return {makes ? kMake : call->what, path};
 }
 
@@ -118,24 +96,24 @@ inline int RunIntercepted(const World& world, const std::vector<std::string>& pl
     timer.start();
     pollfd ready{listener.get(), POLLIN, 0};
     while (supervisor->state() != QProcess::NotRunning || (ready.revents & POLLHUP) == 0) {
-        seccomp_notif request{};
         if (!listener.valid() || timer.hasExpired(60000)) { KillStart(*supervisor); }
         if (poll(&ready, 1, 10) <= 0 || (ready.revents & POLLIN) == 0) {
             supervisor->waitForFinished(0);
             while (supervisor->state() == QProcess::NotRunning && waitpid(-1, nullptr, WNOHANG) > 0) {}
             continue;
         }
+        seccomp_notif request{};
         if (ioctl(listener.get(), SECCOMP_IOCTL_NOTIF_RECV, &request) != 0) {
             continue;  // the caller is gone
         }
         const auto caller = static_cast<pid_t>(request.pid);
-        const FileCall call = Describe(caller, request.data);
+        const FileCall call = Describe(request);
         const bool asked = getpgid(caller) == getpgrp() &&
                            std::any_of(places.begin(), places.end(),
                                        [&](const std::string& place) { return call.path.rfind(place, 0) == 0; });
         const int decision = asked ? answer(call) : kGoOn;
         if (decision == kKillBoth) { supervisor->kill(); }
-        if (decision == kKillBoth || decision == kKillLauncher) { kill(ProcessOf(caller), SIGKILL); }
+        if (decision == kKillBoth || decision == kKillLauncher) { kill(caller, SIGKILL); }
         seccomp_notif_resp response{};
         response.id = request.id;
         response.error = std::min(decision, 0);

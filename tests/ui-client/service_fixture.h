@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <map>
 
 #include "log.h"
 #include "rows.h"
@@ -10,20 +9,6 @@
 #include "ui-client/launcher/str-table.h"
 
 using Text = const char*;
-
-// Contents by path: "/" for a directory, "->" and the target's name for a link.
-using Tree = std::map<std::string, std::string>;
-
-inline Tree Look(const std::string& directory) {
-    Tree tree;
-    for (const auto& file : std::filesystem::recursive_directory_iterator(directory)) {
-        tree[file.path().lexically_relative(directory)] =
-            file.is_symlink()        ? "->" + std::filesystem::read_symlink(file).filename().string()
-            : file.is_regular_file() ? ReadFile(file.path())
-                                     : "/";
-    }
-    return tree;
-}
 
 // A temporary home directory, and a log with all levels.
 class ServiceTest : public testing::Test {
