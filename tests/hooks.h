@@ -14,7 +14,6 @@ struct Hooks {
     std::size_t most_bytes = SIZE_MAX;  // of one read(2); one write(2) takes half of them
     int access_error = 0;               // errno of a call that fails
     int write_error = 0;
-    bool leave_holes = false;  // write(2) skips blocks of zeros
     int fsync_error = 0;
     unsigned long volume_type = 0;  // statfs(2)
     dev_t device = 0;               // lstat(2)
@@ -29,6 +28,7 @@ struct Hooks {
     // Counts since Reset.
     int fsyncs = 0;
     int syncfs = 0;
+    int mutex_inits = 0;
 };
 
 extern Hooks g;

@@ -5,8 +5,6 @@
 #include <archive_entry.h>
 #include <sys/stat.h>
 
-#include <algorithm>
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -14,7 +12,6 @@ struct ArchiveMember {
     std::string path;
     std::string content;  // or the target of a link
     mode_t mode = S_IFREG;
-    std::int64_t hole = 0;  // bytes before the content
 };
 
 constexpr mode_t kHardLink = 0;
@@ -27,21 +24,14 @@ inline void MakeArchive(const std::string& path, const std::vector<ArchiveMember
     format(writer);
     archive_write_add_filter_program(writer, filter);
     archive_write_open_filename(writer, path.c_str());
-    constexpr std::int64_t kChunk = 1 << 20;
-    const std::string zeros(kChunk, 0);
-    for (const auto& [name, content, mode, hole] : members) {
+    for (const auto& [name, content, mode] : members) {
         archive_entry* const header = archive_entry_new();
         archive_entry_set_pathname(header, name.c_str());
         archive_entry_set_mode(header, (mode == kHardLink ? S_IFREG : mode) | 0755);
         archive_entry_set_hardlink(header, mode == kHardLink ? content.c_str() : nullptr);
         if (mode == S_IFLNK) { archive_entry_set_symlink(header, content.c_str()); }
-        const auto size = static_cast<la_int64_t>(content.size());
-        archive_entry_set_size(header, mode == S_IFREG ? hole + size : 0);
-        if (hole > 0) { archive_entry_sparse_add_entry(header, hole, size); }
+        archive_entry_set_size(header, mode == S_IFREG ? static_cast<la_int64_t>(content.size()) : 0);
         archive_write_header(writer, header);
-        for (std::int64_t at = 0; at < hole; at += kChunk) {
-            archive_write_data(writer, zeros.data(), static_cast<std::size_t>(std::min(kChunk, hole - at)));
-        }
         archive_write_data(writer, content.data(), content.size());
         archive_entry_free(header);
     }

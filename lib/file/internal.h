@@ -2,15 +2,19 @@
 #pragma once
 
 #include <dirent.h>
+#include <sys/types.h>
 
 #include <cerrno>
 #include <cstddef>
 #include <cstring>
+#include <ctime>
 #include <memory>
 
 #include "file/file-op.h"
 #include "free-by.h"
 #include "lib/ascii.h"
+
+static_assert(sizeof(off_t) == 8 && sizeof(std::time_t) == 8, "files over 2 GiB, years after 2038");
 
 inline constexpr int kPathBuffer = 4096;
 inline const ustring kLogComponent("file_op_debug");

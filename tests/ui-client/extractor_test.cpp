@@ -64,17 +64,6 @@ TEST_F(ExtractorTest, WritesReportsAndCounts) {
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "dir/\ndir/run\nno/parents\nreplaced\nlink\n");
 }
 
-TEST_F(ExtractorTest, UnpacksAFileOfMoreThanFourGibibytes) {
-    constexpr std::int64_t kHole = 4LL << 30;
-    MakeArchive(home / "archive", {{"large", "end", S_IFREG, kHole}});
-    EXPECT_EQ(ExtractAfresh(), 0);
-    EXPECT_EQ(fs::file_size(home / "dest/large"), kHole + 3);
-    std::ifstream file(home / "dest/large");
-    std::string end;
-    file.seekg(kHole) >> end;
-    EXPECT_EQ(end, "end");
-}
-
 // Files from before a failure stay. A package may have links to any place.
 TEST_F(ExtractorTest, HandlesHostileAndOddPackages) {
     const std::string outside = home / "outside";
