@@ -3,47 +3,29 @@
 // construction of the application object.
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDir>
 #include <QEvent>
 #include <QGenericPlugin>
 #include <QIcon>
 #include <QLabel>
 #include <QProgressBar>
 #include <QProgressDialog>
-#include <QTranslator>
 #include <cstdio>
 
 namespace {
 
 void Report(const QString& line) { std::fprintf(stderr, "window: %s\n", line.toUtf8().constData()); }
 
-// The languages with a text that is too wide for the label.
-QString CutOff(const QLabel& label) {
-    QString cut;
-    for (const QString& file : QDir(":/").entryList({"???.qm"})) {
-        QTranslator language;
-        cut += language.load(":/" + file) ? "" : " unreadable " + file;
-        for (const char* const text : {"Quillmere Drive is initializing...", "Quillmere Drive is ready."}) {
-            const QString shown = language.translate("global", text);
-            const int width = label.fontMetrics().horizontalAdvance(shown);
-            cut += width == 0 || width > label.width() ? " " + file : "";
-        }
-    }
-    return cut;
-}
-
 // Overwrites label and bar after each report, so that setting the same value again is a change.
 void OnShow(const QProgressDialog& dialog) {
     const auto label = dialog.findChild<QLabel*>();
     const auto bar = dialog.findChild<QProgressBar*>();
     Report(dialog.windowTitle() + ", " + label->text());
-    Report(QString("%1 pixels on %2, modal: %7, buttons: %8, icon of %3, %4 on %5, cut off:%6")
+    Report(QString("%1 pixels on %2, modal: %6, buttons: %7, icon of %3, %4 on %5")
                .arg(qRound(dialog.width() * dialog.devicePixelRatioF() / 10) * 10)
                .arg(QGuiApplication::platformName())
                .arg(dialog.windowIcon().actualSize({500, 500}).width())
                .arg(label->palette().windowText().color().name())
                .arg(bar->palette().base().color().name())
-               .arg(CutOff(*label))
                .arg(dialog.isModal())
                .arg(dialog.findChildren<QAbstractButton*>().size()));
     label->setText("overwritten");

@@ -37,6 +37,7 @@ void TestProbes(const TempDir& at) {
     // Names that printf or /proc could misread.
     const std::string in_dir = "dir/" + kComposed, odd = "%n%s\n", gone = "x (deleted)";
     for (const std::string& name : {kDecomposed, in_dir, odd, gone, kNotUtf8}) { WriteFile(at / name, "odd"); }
+    fs::resize_file(at / in_dir, 5LL << 30);
     const Rows<std::string, std::string, int> rows = {
         {"file", "file", FS_TYPE_FILE},        {"link/inner", "dir/inner", FS_TYPE_FILE},
         {"link", "link", FS_TYPE_LINK},        {"dangling", "dangling", FS_TYPE_LINK},

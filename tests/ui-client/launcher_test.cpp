@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCryptographicHash>
 #include <QDir>
+#include <QLabel>
 #include <QResource>
 #include <QTranslator>
 #include <cstring>
@@ -98,7 +99,10 @@ TEST_F(LauncherTest, EachLocaleHasItsLanguage) {
     for (const int none : {-1, 20, 21}) { EXPECT_EQ(OrvaLocale::getLanguageAbbrByID(none), ""); }
 }
 
-TEST_F(LauncherTest, EachLanguageHasEachText) {
+TEST_F(LauncherTest, EachLanguageHasEachTextAndThoseOfTheWindowFit) {
+    ProcessingProgressDialog dialog;
+    dialog.show();
+    const auto label = dialog.findChild<QLabel*>();
     const QStringList codes = OrvaLocale::getSupportedLanguages();
     EXPECT_EQ(codes.join(' '), "enu cht chs jpn deu krn fra ita esn ptb rus dan nor sve nld plk hun ptg trk csy");
     EXPECT_EQ(QDir(":/").entryList({"*.qm"}).size(), 20);
@@ -112,6 +116,8 @@ TEST_F(LauncherTest, EachLanguageHasEachText) {
         for (const Row& row : kRows) {
             const QString text = translator.translate("global", row.text, nullptr, -1);
             EXPECT_TRUE(code == "enu" ? text == row.text : !text.isEmpty()) << row.id;
+            const bool shown = row.id == StrTable::kEnvironmentPreparing || row.id == StrTable::kEnvironmentReady;
+            EXPECT_TRUE(!shown || label->fontMetrics().horizontalAdvance(text) <= label->width()) << row.id;
         }
     }
 }
