@@ -113,7 +113,10 @@ inline int RunIntercepted(const World& world, const std::vector<std::string>& pl
                                        [&](const std::string& place) { return call.path.rfind(place, 0) == 0; });
         const int decision = asked ? answer(call) : kGoOn;
         if (decision == kKillBoth) { supervisor->kill(); }
-        if (decision == kKillBoth || decision == kKillLauncher) { kill(caller, SIGKILL); }
+        if (decision == kKillBoth || decision == kKillLauncher) {
+            kill(caller, SIGKILL);
+            continue;  // an answer could let the call happen
+        }
         seccomp_notif_resp response{};
         response.id = request.id;
         response.error = std::min(decision, 0);
