@@ -48,6 +48,9 @@ TEST_F(QpkTest, WrongUsage) {
         {"$Q make c -o p --build 2147483648", "--build: is 2147483648" + range},
         {"$Q make c -o p --build 1 --level 9abc", "--level: is 9abc" + range + "1 to 19: give a number in this range"},
         {"$Q make c -o p --build 1 --level 20", "--level: is 20" + range},
+        {"ln -s c link; $Q make c -o link/p --build 1", "link/p: is in the client's directory: choose"},
+        {"cd c && $Q make . -o p --build 1", "p: is in the client's directory: choose"},
+        {"$Q bundle --client c --build 1 --launcher $Q --icon i -o c", "c: is in the client's directory: choose"},
         {"SOURCE_DATE_EPOCH=5s $Q make c -o p --build 1", "SOURCE_DATE_EPOCH: is 5s" + range},
     };
     for (const auto& line : lines) {
@@ -56,6 +59,7 @@ TEST_F(QpkTest, WrongUsage) {
         EXPECT_EQ(run.err.rfind("qpk: " + line.second, 0), 0) << line.first << "\n" << run.err;
     }
     EXPECT_FALSE(fs::exists(dir_ / "p"));
+    EXPECT_EQ(Look(dir_ / "c").size(), 4u);
     EXPECT_EQ(Shell("$Q make c -o p --build 2147483647 --level 1").exit_code, 0);
 }
 
@@ -190,6 +194,7 @@ TEST_F(QpkTest, BundleInstallsItsClient) {
           "/platforms P; sed -i s/Qpa.so.[56]/Qpa.so.9/ P/*/libqxcb.so");
     EXPECT_TRUE(
         Contains(Shell(line + "b --copy-plugins --plugins P").err, "XcbQpa.so.9 => not found: install the library"));
+    EXPECT_TRUE(Contains(Shell(line + "b --plugins none").err, "none: cannot be read: No such file"));
     EXPECT_EQ(Shell(line + "b --plugins P && ls b/Contents/Frameworks/plugins/").out, "platforms\nwayland-x\n");
 }
 

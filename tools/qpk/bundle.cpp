@@ -168,9 +168,15 @@ void Assemble(const BundleOptions& options) {
 }  // namespace
 
 void WriteBundle(const BundleOptions& options) {
+    if (IsInside(options.output, options.package.client)) {
+        throw Error(options.output, Message::kInClient);
+    }
     try {
         Assemble(options);
     } catch (const fs::filesystem_error& error) {
-        throw Error(error.path1().string(), Message::kCannotWrite, {error.code().message()});
+        const std::string path = error.path1().string();
+        const bool writes = IsInside(path, options.output);
+        throw Error(path, writes ? Message::kCannotWrite : Message::kCannotRead,
+                    {error.code().message()});
     }
 }

@@ -87,3 +87,11 @@ Entries ReadClientTree(const std::string& directory) {
         throw Error(error.path1().string(), Message::kCannotRead, {error.code().message()});
     }
 }
+
+bool IsInside(const std::string& path, const std::string& directory) {
+    const auto resolved = [](const std::string& name) {
+        return fs::weakly_canonical(fs::absolute(name));
+    };
+    const fs::path relative = resolved(path).lexically_relative(resolved(directory));
+    return !relative.empty() && *relative.begin() != "..";
+}

@@ -10,3 +10,6 @@
 // copy can be removed. Set-id bits of files stay, for the rules. Throws Error if something cannot
 // be read.
 Entries ReadClientTree(const std::string& directory);
+
+// Whether `path` is `directory` or in it, with all links resolved. Neither needs to exist.
+bool IsInside(const std::string& path, const std::string& directory);

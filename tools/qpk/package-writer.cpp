@@ -162,6 +162,9 @@ std::int64_t LatestTime() {
 }
 
 std::string WritePackage(const PackageOptions& options) {
+    if (IsInside(options.package, options.client)) {
+        throw Error(options.package, Message::kInClient);
+    }
     Entries entries = ReadClientTree(options.client);
     Findings version_faults;
     std::string info = TakeInfo(options, entries, version_faults);

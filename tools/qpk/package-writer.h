@@ -22,5 +22,5 @@ std::int64_t LatestTime();
 // Packs a client into a pax tar compressed by zstd. The entries are in path order, except that INFO
 // is last: an incomplete copy has no version, and the next start replaces it. The same input gives
 // the same bytes. The file is replaced atomically. Result: the content of INFO. Throws Error, with
-// all faults of the client before anything is written.
+// all faults of the client before anything is written; also if the file would be in the client.
 std::string WritePackage(const PackageOptions& options);
