@@ -125,7 +125,9 @@ class Faults : public testing::TestWithParam<Scenario> {
         const bool each_attempt_dies = fault.answer == kKillLauncher && fault.at_later_calls;
         CheckCopies(!killed && !each_attempt_dies);
         // The same start continues after its working process was killed.
-        if (fault.answer == kKillLauncher && !fault.at_later_calls && !damaged_) { EXPECT_TRUE(Get() == after_) << world_.Log(); }
+        if (fault.answer == kKillLauncher && !fault.at_later_calls && !damaged_) {
+            EXPECT_TRUE(Get() == after_) << world_.Log();
+        }
     }
 
     void LosePower() const {
