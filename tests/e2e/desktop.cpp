@@ -10,8 +10,6 @@
 
 #include "unique-fd.h"
 
-namespace fs = std::filesystem;
-
 Desktop::Desktop(int resolution) {
     static int argc = 0;
     static const QCoreApplication application(argc, nullptr);  // for sockets

@@ -1,22 +1,14 @@
 // Bundles, homes and runs for the end-to-end tests.
 #include "e2e/harness.h"
 
+#include <QDeadlineTimer>
 #include <QRegularExpression>
-#include <chrono>
-#include <thread>
+#include <QThread>
 
 #include "make_archive.h"
 #include "platform/desktop/qt-version.h"
 
-namespace fs = std::filesystem;
-
-namespace {
-
-constexpr char kInfo[] = "/Contents/Resources/INFO";
-
-std::string Info(int build) { return "[Version]\nbuild_version=" + std::to_string(build) + "\n"; }
-
-}  // namespace
+static std::string Info(int build) { return "[Version]\nbuild_version=" + std::to_string(build) + "\n"; }
 
 const std::string kLightClient = R"(#!/bin/sh
 [ "$1" != --ignore-sigterm ] || trap "" TERM
@@ -27,7 +19,7 @@ exec sleep 1000
 PackageEntries ClientPackage(int build, const PackageEntries& extra, const std::string& client) {
     PackageEntries entries{{"Contents/MacOS/quillmere-ui", client}};
     entries.insert(entries.end(), extra.begin(), extra.end());
-    entries.push_back({kInfo + 1, Info(build)});
+    entries.push_back({kInfo, Info(build)});
     return entries;
 }
 
@@ -76,7 +68,7 @@ std::vector<std::string> World::Locks() const {
 }
 
 void World::Offer(int build, const std::string& package) {
-    WriteFile(Bundle() + kInfo, Info(build));
+    WriteFile(Bundle() + "/" + kInfo, Info(build));
     fs::remove(Package());
     WriteFile(Package(), package);
 }
@@ -84,7 +76,7 @@ void World::Offer(int build, const std::string& package) {
 void World::Have(int build) const {
     WriteFile(Client(), kLightClient);
     fs::permissions(Client(), fs::perms(0755));
-    WriteFile(App() + kInfo, Info(build));
+    WriteFile(App() + "/" + kInfo, Info(build));
 }
 
 void World::LogEverything() {
@@ -119,7 +111,7 @@ pid_t World::WaitForClient() const {
 
 std::string World::Installed() const {
     const QRegularExpression build("build_version=(\\d+)");
-    return build.match(QString::fromStdString(ReadFile(App() + kInfo))).captured(1).toStdString();
+    return build.match(QString::fromStdString(ReadFile(App() + "/" + kInfo))).captured(1).toStdString();
 }
 
 testing::AssertionResult EndedWell(const Outcome& run) {
@@ -140,12 +132,10 @@ testing::AssertionResult Succeeded(const Outcome& run, const World& world, int b
 bool Contains(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
 bool WaitFor(const std::function<bool()>& condition, int seconds) {
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > end) { return false; }
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    for (const QDeadlineTimer end(seconds * 1000); !end.hasExpired(); QThread::msleep(5)) {
+        if (condition()) { return true; }
     }
-    return true;
+    return condition();
 }
 
 // A zombie counts as dead.

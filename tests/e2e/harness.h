@@ -7,14 +7,13 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <functional>
-#include <map>
 
-#include "in_child.h"
-#include "rows.h"
-#include "temp_dir.h"
+#include "support.h"
 
 // Paths and contents of a package, in order.
 using PackageEntries = std::vector<std::pair<std::string, std::string>>;
+
+constexpr char kInfo[] = "Contents/Resources/INFO";
 
 // A client that writes its pid file and exits on SIGTERM, except with --ignore-sigterm.
 extern const std::string kLightClient;

@@ -7,8 +7,6 @@
 
 #include "e2e/harness.h"
 
-namespace fs = std::filesystem;
-
 TEST(Launcher, UpgradesAndLeavesACurrentCopyAlone) {
     World world;
     world.Have(1);

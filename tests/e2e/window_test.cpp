@@ -5,8 +5,6 @@
 
 #include "e2e/desktop.h"
 
-namespace fs = std::filesystem;
-
 namespace {
 
 // Messages of a session manager (Inter-Client Exchange Protocol, X Session Management Protocol): ByteOrder,

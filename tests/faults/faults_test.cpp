@@ -6,32 +6,22 @@
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
-#include <random>
 #include <set>
 
 #include "e2e/harness.h"
 #include "faults/intercepted_run.h"
 
-namespace fs = std::filesystem;
-
 namespace {
 
 constexpr char kApp[] = "Quillmere.app";
-constexpr char kInfo[] = "Contents/Resources/INFO";
-constexpr char kExecutable[] = "Contents/MacOS/quillmere-ui";
 
-// INFO is last. The noise is incompressible, so that a truncated package has a part of the files.
-PackageEntries Client(char build) {
-    std::minstd_rand random(build);
-    std::string noise(200000, 0);
-    std::generate(noise.begin(), noise.end(), [&] { return static_cast<char>(random() >> 8); });
-    const std::string script = "#!/bin/sh\necho " + std::string(1, build) + " >\"$HOME/opened\"\n";
-    return {{"Contents/Frameworks/library", noise},
-            {kExecutable, script},
-            {kInfo, "[Version]\nbuild_version=" + std::string(1, build) + "\n"}};
+// A truncated package of it has a part of the files.
+PackageEntries Client(int build) {
+    const std::string script = "#!/bin/sh\necho " + std::to_string(build) + " >\"$HOME/opened\"\n";
+    return ClientPackage(build, {{"library", Noise(200000, build)}}, script);
 }
 
-const PackageEntries kOld = Client('1'), kNew = Client('2'), kNoVersion{{kExecutable, ""}}, kSomebodys{{"file", "x"}};
+const PackageEntries kOld = Client(1), kNew = Client(2), kNoVersion{{"damaged", ""}}, kSomebodys{{"file", "x"}};
 
 using User = std::map<std::string, PackageEntries>;  // directories by name
 using Trees = std::map<std::string, Tree>;

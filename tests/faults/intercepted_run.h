@@ -8,14 +8,11 @@
 #include <sys/ioctl.h>
 #include <sys/prctl.h>
 #include <sys/syscall.h>
-#include <sys/wait.h>
 
 #include <algorithm>
 
 #include "e2e/harness.h"
 #include "unique-fd.h"
-
-namespace fs = std::filesystem;
 
 enum What { kLook, kOpen, kMake, kWrite, kChange, kRename, kRemove, kFlush };
 

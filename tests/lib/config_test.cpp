@@ -3,12 +3,9 @@
 
 #include <climits>
 
-#include "tests/rows.h"
-#include "tests/temp_dir.h"
+#include "tests/support.h"
 
 namespace {
-
-using namespace std::string_literals;
 
 // The result of reading a file into a map with an entry, and the map, as text.
 std::string Read(const std::string& path) {

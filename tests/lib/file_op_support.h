@@ -12,14 +12,7 @@
 #include "file/file-op.h"
 #include "log.h"
 #include "tests/hooks.h"
-#include "tests/in_child.h"
-#include "tests/rows.h"
-#include "tests/temp_dir.h"
-
-namespace fs = std::filesystem;
-using namespace std::string_literals;
-
-using Text = const char*;
+#include "tests/support.h"
 
 const std::string kComposed = "caf\xc3\xa9", kDecomposed = "cafe\xcc\x81", kNotUtf8 = "caf\xe9";
 

@@ -8,14 +8,12 @@
 #include <atomic>
 #include <cstring>
 #include <functional>
-#include <map>
 #include <regex>
 #include <set>
 #include <thread>
 
 #include "tests/hooks.h"
-#include "tests/rows.h"
-#include "tests/temp_dir.h"
+#include "tests/support.h"
 
 struct LoggerTestPeer {
     static int& size() { return *Logger::log_size; }
@@ -25,7 +23,6 @@ struct LoggerTestPeer {
 
 namespace {
 
-namespace fs = std::filesystem;
 constexpr int kStamp = 16, kLine = 18;  // bytes of "Nov 18 15:07:08 " and of this with "a\n"
 
 void Log(int level, std::string component, const char* format, ...) {

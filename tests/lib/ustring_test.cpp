@@ -1,15 +1,11 @@
 // Tests of ustring: both texts after each operation, searches, comparisons, capacities.
 #include "ustring/ustring.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cstring>
 #include <iostream>
-#include <sstream>
-#include <string>
 
-#include "tests/rows.h"
+#include "tests/support.h"
 
 struct ustring_test_peer {
     static unsigned long units(ustring const& s) { return s.wdata_length; }
@@ -27,7 +23,7 @@ constexpr unsigned short kUnit = u'é';
 // A statement that changes the ustring `s`, and its source text.
 #define CHANGE(...) #__VA_ARGS__, [](auto& s) { __VA_ARGS__; }
 
-std::string Text(ustring const& s) {
+std::string Utf8(ustring const& s) {
     EXPECT_EQ(s.length(), std::strlen(s.c_str()));
     EXPECT_LT(s.length(), Peer::capacity(s));
     return s.c_str();
@@ -105,7 +101,7 @@ TEST(UstringChangeTest, EachChangeUpdatesBothTexts) {
                 row.change(s);
                 outcome = Peer::units(s) == 0 ? "dropped" : "built";
             } catch (std::exception const& e) { outcome = e.what(); }
-            EXPECT_EQ(Text(s), row.text);
+            EXPECT_EQ(Utf8(s), row.text);
             EXPECT_EQ(Utf16(s), Utf16(ustring(row.text)));
             EXPECT_TRUE(outcome == row.outcome || !built) << outcome;
         }
@@ -121,29 +117,29 @@ TEST(UstringConversionTest, AFailedConversionWarnsAndGivesAnEmptyText) {
         EXPECT_FALSE(ustring::is_valid(s));
         EXPECT_EQ(Utf16(s), u"");
         EXPECT_EQ(cerr.str(), "Warning: u_strFromUTF8: error code 10 at line 921\n");
-        EXPECT_EQ(Text(s.normalize(ustring::NFC)), "");
-        EXPECT_EQ(Text(s), text);
-        EXPECT_EQ(Text(s.append(kUnit, 1)), "é");  // not after the old text
+        EXPECT_EQ(Utf8(s.normalize(ustring::NFC)), "");
+        EXPECT_EQ(Utf8(s), text);
+        EXPECT_EQ(Utf8(s.append(kUnit, 1)), "é");  // not after the old text
     }
     ustring s("a\U0001F600");
     s.assign(s.c_str_utf16(), 2);  // half of a pair
-    EXPECT_EQ(Text(s), "");
+    EXPECT_EQ(Utf8(s), "");
     EXPECT_EQ(Peer::units(s), 0u);
     EXPECT_NE(cerr.str().find("Warning: u_strToUTF8: error code 10 at line 888\n"), kNone);
 }
 
 TEST(UstringConversionTest, ConvertsBothWaysAndNormalizes) {
     const unsigned short units[] = {'a', 0xE9, 0x6F22, 0xD83D, 0xDE00, 0};
-    EXPECT_EQ(Text(ustring("a") += static_cast<unsigned short>(0x80)), "a\u0080");
-    EXPECT_EQ(Text(units), "aé漢😀");
+    EXPECT_EQ(Utf8(ustring("a") += static_cast<unsigned short>(0x80)), "a\u0080");
+    EXPECT_EQ(Utf8(units), "aé漢😀");
     EXPECT_EQ(Utf16("aé漢😀"), u"aé漢😀");
     EXPECT_TRUE(ustring::is_valid("aé漢😀"));
     EXPECT_TRUE(ustring::is_valid(""));
     // Marks in another order, a syllable, and a ligature, which has no composed form.
     const ustring source("e\u0301 \u00E9 \u00E2\u0323 \uAC01 \uFB01");
     const ustring decomposed = source.normalize(ustring::NFD);
-    EXPECT_EQ(Text(source.normalize(ustring::NFC)), "\u00E9 \u00E9 \u1EAD \uAC01 \uFB01");
-    EXPECT_EQ(Text(decomposed), "e\u0301 e\u0301 a\u0323\u0302 \u1100\u1161\u11A8 \uFB01");
+    EXPECT_EQ(Utf8(source.normalize(ustring::NFC)), "\u00E9 \u00E9 \u1EAD \uAC01 \uFB01");
+    EXPECT_EQ(Utf8(decomposed), "e\u0301 e\u0301 a\u0323\u0302 \u1100\u1161\u11A8 \uFB01");
     EXPECT_EQ(Utf16(decomposed), Utf16(decomposed.c_str()));
 }
 
@@ -195,7 +191,7 @@ TEST(UstringSearchTest, StopsAtANulInsideTheText) {
     EXPECT_EQ(s.length(), 8u);
     EXPECT_TRUE(s == "ab");
     EXPECT_EQ(s.compare("ab", 9), 0);
-    EXPECT_EQ(Text(ustring(s)), "ab");
+    EXPECT_EQ(Utf8(ustring(s)), "ab");
     EXPECT_EQ(Utf16(s), u"ab");
     ustring other("ab");
     other.append('\0', 6).append("hidden");

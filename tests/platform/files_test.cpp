@@ -6,9 +6,7 @@
 #include "platform/files/file-lock.h"
 #include "platform/files/flush.h"
 #include "tests/hooks.h"
-#include "tests/temp_dir.h"
-
-namespace fs = std::filesystem;
+#include "tests/support.h"
 
 TEST(FileLock, HasOneHolder) {
     const TempDir dir;

@@ -1,12 +1,9 @@
 // The platforms that a start tries, for each kind of session.
 #include "platform/desktop/platforms.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/rows.h"
+#include "tests/support.h"
 
 TEST(PlatformsToTry, ForEachKindOfSession) {
-    using Text = const char*;
     const Rows<Text, Text, Text, Text> cases = {
         {"", "", "", "offscreen"},
         {"", ":0", "", "xcb;offscreen"},

@@ -1,8 +1,6 @@
 // Runs qpk as its users do.
 #include "e2e/harness.h"
 
-namespace fs = std::filesystem;
-
 namespace {
 
 struct Result {

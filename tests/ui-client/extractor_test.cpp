@@ -4,14 +4,11 @@
 #include <QObject>
 #include <climits>
 #include <clocale>
-#include <random>
 
 #include "make_archive.h"
 #include "ui-client/launcher/archive-handles.h"
 #include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/service_fixture.h"
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -129,9 +126,8 @@ TEST_F(ExtractorTest, ReportsMissingFilesAndArguments) {
 
 // A package from qpk is extracted completely or not at all.
 TEST_F(ExtractorTest, RejectsDamagedPackages) {
+    const std::string noise = Noise(30000, 1);
     std::minstd_rand random(1);
-    std::string noise(30000, 0);
-    std::generate(noise.begin(), noise.end(), [&] { return static_cast<char>(random() >> 8); });
     MakeArchive(home / "archive", {{"a", noise}, {"b/c", noise + noise}, {"INFO", "x"}},
                 archive_write_set_format_pax_restricted, "zstd -q --check -c");
     EXPECT_EQ(ExtractAfresh(), 0);

@@ -4,11 +4,8 @@
 #include <QCoreApplication>
 
 #include "log.h"
-#include "rows.h"
-#include "temp_dir.h"
+#include "support.h"
 #include "ui-client/launcher/str-table.h"
-
-using Text = const char*;
 
 // A temporary home directory, and a log with all levels.
 class ServiceTest : public testing::Test {
