@@ -17,10 +17,8 @@
 
 // Refuses links, because a package may write anywhere through them.
 static bool HasLinks(const std::string& package) {
-    const ArchiveReader reader(archive_read_new());
-    archive_read_support_filter_all(reader.get());
-    archive_read_support_format_all(reader.get());
-    archive_read_open_filename(reader.get(), package.c_str(), 10240);
+    int opened = ARCHIVE_FATAL;
+    const ArchiveReader reader = OpenArchive(package.c_str(), 10240, opened);
     bool links = false;
     archive_entry* entry = nullptr;
     while (!links && archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {

@@ -6,7 +6,6 @@
 #include <fcntl.h>
 #include <pthread.h>
 #include <sys/file.h>
-#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/time.h>
 #include <sys/vfs.h>
@@ -72,10 +71,6 @@ int OpenAt(int directory, const char* path, int flags) {
 
 extern "C" {
 
-int access(const char* path, int mode) noexcept {
-    return g.access_error != 0 ? Fail(g.access_error) : static_cast<int>(syscall(SYS_faccessat, AT_FDCWD, path, mode));
-}
-
 int flock(int file, int operation) noexcept {
     RunOnce(g.before_flock);
     return static_cast<int>(syscall(SYS_flock, file, operation));
@@ -107,22 +102,11 @@ ssize_t write(int file, const void* bytes, size_t size) {
                : syscall(SYS_write, file, bytes, std::min(size, g.most_bytes == SIZE_MAX ? size : g.most_bytes / 2));
 }
 
-ssize_t readlink(const char* path, char* text, size_t size) noexcept {
-    RunOnce(g.before_readlink);
-    return syscall(SYS_readlinkat, AT_FDCWD, path, text, size);
-}
-
 int statfs(const char* path, struct statfs* volume) noexcept {
     // The structure has 64-bit fields on all systems here.
     static auto* const next = Next<int(const char*, struct statfs*)>("statfs64");
     const int result = next(path, volume);
     if (g.volume_type != 0) { volume->f_type = static_cast<decltype(volume->f_type)>(g.volume_type); }
-    return result;
-}
-
-int lstat(const char* path, struct stat* status) noexcept {
-    const int result = fstatat(AT_FDCWD, path, status, AT_SYMLINK_NOFOLLOW);
-    if (g.device != 0) { status->st_dev = g.device; }
     return result;
 }
 

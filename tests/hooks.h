@@ -1,22 +1,17 @@
 // System calls that tests can change. Without a change each does what the system's own does.
 #pragma once
 
-#include <sys/types.h>
-
 #include <cstdint>
 #include <ctime>
 #include <functional>
-#include <vector>
 
 namespace hooks {
 
 struct Hooks {
     std::size_t most_bytes = SIZE_MAX;  // of one read(2); one write(2) takes half of them
-    int access_error = 0;               // errno of a call that fails
-    int write_error = 0;
+    int write_error = 0;                // errno of a call that fails
     int fsync_error = 0;
     unsigned long volume_type = 0;  // statfs(2)
-    dev_t device = 0;               // lstat(2)
     std::time_t now = 0;            // time(2), gettimeofday(2)
     // Run once, before the next call.
     std::function<void()> before_flock;
@@ -24,7 +19,6 @@ struct Hooks {
     std::function<void()> before_mutex_init;
     std::function<void()> before_openat;
     int openat_calls_before = 0;
-    std::function<void()> before_readlink;
     // Counts since Reset.
     int fsyncs = 0;
     int syncfs = 0;

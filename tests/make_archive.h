@@ -1,12 +1,12 @@
 // Writes archives in any format of libarchive.
 #pragma once
 
-#include <archive.h>
-#include <archive_entry.h>
 #include <sys/stat.h>
 
 #include <string>
 #include <vector>
+
+#include "ui-client/launcher/archive-handles.h"
 
 struct ArchiveMember {
     std::string path;
@@ -20,21 +20,18 @@ using ArchiveFormat = int (*)(archive*);
 // `filter` is a program that compresses the archive. All members have the permissions 0755.
 inline void MakeArchive(const std::string& path, const std::vector<ArchiveMember>& members,
                         ArchiveFormat format = archive_write_set_format_pax_restricted, const char* filter = "cat") {
-    archive* const writer = archive_write_new();
-    format(writer);
-    archive_write_add_filter_program(writer, filter);
-    archive_write_open_filename(writer, path.c_str());
+    const ArchiveWriter writer(archive_write_new());
+    format(writer.get());
+    archive_write_add_filter_program(writer.get(), filter);
+    archive_write_open_filename(writer.get(), path.c_str());
     for (const auto& [name, content, mode] : members) {
-        archive_entry* const header = archive_entry_new();
-        archive_entry_set_pathname(header, name.c_str());
-        archive_entry_set_mode(header, (mode == kHardLink ? S_IFREG : mode) | 0755);
-        archive_entry_set_hardlink(header, mode == kHardLink ? content.c_str() : nullptr);
-        if (mode == S_IFLNK) { archive_entry_set_symlink(header, content.c_str()); }
-        archive_entry_set_size(header, mode == S_IFREG ? static_cast<la_int64_t>(content.size()) : 0);
-        archive_write_header(writer, header);
-        archive_write_data(writer, content.data(), content.size());
-        archive_entry_free(header);
+        const ArchiveEntry header(archive_entry_new());
+        archive_entry_set_pathname(header.get(), name.c_str());
+        archive_entry_set_mode(header.get(), (mode == kHardLink ? S_IFREG : mode) | 0755);
+        archive_entry_set_hardlink(header.get(), mode == kHardLink ? content.c_str() : nullptr);
+        if (mode == S_IFLNK) { archive_entry_set_symlink(header.get(), content.c_str()); }
+        archive_entry_set_size(header.get(), mode == S_IFREG ? static_cast<la_int64_t>(content.size()) : 0);
+        archive_write_header(writer.get(), header.get());
+        archive_write_data(writer.get(), content.data(), content.size());
     }
-    archive_write_close(writer);
-    archive_write_free(writer);
 }

@@ -1,7 +1,7 @@
 // Bundles, homes and runs for the end-to-end tests.
 #include "e2e/harness.h"
 
-#include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <QRegularExpression>
 #include <QThread>
 
@@ -131,8 +131,8 @@ testing::AssertionResult Succeeded(const Outcome& run, const World& world, int b
 
 bool Contains(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
-bool WaitFor(const std::function<bool()>& condition, int seconds) {
-    for (const QDeadlineTimer end(seconds * 1000); !end.hasExpired(); QThread::msleep(5)) {
+bool WaitFor(const std::function<bool()>& condition) {
+    for (const QDeadlineTimer end(10000); !end.hasExpired(); QThread::msleep(5)) {
         if (condition()) { return true; }
     }
     return condition();

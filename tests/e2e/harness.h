@@ -3,7 +3,7 @@
 
 #include <signal.h>
 
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <functional>
@@ -80,8 +80,8 @@ testing::AssertionResult EndedWell(const Outcome& run);
 testing::AssertionResult Succeeded(const Outcome& run, const World& world, int build);
 bool Contains(const std::string& text, const std::string& part);
 
-// Polls `condition` until it holds. Result: false if it does not hold within `seconds`.
-bool WaitFor(const std::function<bool()>& condition, int seconds = 10);
+// Polls `condition` until it holds. Result: false if it does not hold within 10 s.
+bool WaitFor(const std::function<bool()>& condition);
 bool IsAlive(pid_t pid);
 // The working process of a start, which is the child of the supervisor; or 0.
 pid_t LauncherOf(const QProcess& start);

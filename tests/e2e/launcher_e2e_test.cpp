@@ -3,7 +3,6 @@
 #include <sys/stat.h>
 
 #include <QDir>
-#include <QFileInfo>
 
 #include "e2e/harness.h"
 

@@ -89,11 +89,10 @@ inline int RunIntercepted(const World& world, const std::vector<std::string>& pl
     prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0);  // of processes that outlive their parent
     const auto supervisor = world.Spawn([] { dup2(InstallFilter(), kListener); });
     const UniqueFd listener(Borrow(static_cast<pid_t>(supervisor->processId()), kListener));
-    QElapsedTimer timer;
-    timer.start();
+    const QDeadlineTimer end(60000);
     pollfd ready{listener.get(), POLLIN, 0};
     while (supervisor->state() != QProcess::NotRunning || (ready.revents & POLLHUP) == 0) {
-        if (!listener.valid() || timer.hasExpired(60000)) { KillStart(*supervisor); }
+        if (!listener.valid() || end.hasExpired()) { KillStart(*supervisor); }
         if (poll(&ready, 1, 10) <= 0 || (ready.revents & POLLIN) == 0) {
             supervisor->waitForFinished(0);
             while (supervisor->state() == QProcess::NotRunning && waitpid(-1, nullptr, WNOHANG) > 0) {}

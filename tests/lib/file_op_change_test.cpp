@@ -1,9 +1,6 @@
 // Tests of the file layer: copies, moves, new directories, removal.
-#include <fcntl.h>
 
-#include <algorithm>
 #include <cerrno>
-#include <climits>
 #include <cstring>
 
 #include "file_op_support.h"

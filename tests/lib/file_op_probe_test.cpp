@@ -1,7 +1,9 @@
 // Tests of the file layer: probes, directory entries, links, volumes, and messages.
+
 #include <fcntl.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <functional>
 
 #include "file_op_support.h"
@@ -89,19 +91,16 @@ TEST_F(FileOp, ProbesWithoutProc) {
     InChild(hide_proc, [&] { TestProbes(at_); });
 }
 
-// The name counts, not the opened file.
-TEST_F(FileOp, AFileIsReplacedOrRemovedDuringTheLookup) {
-    const Rows<std::function<void()>, bool> rows = {
-        {[] { fs::rename("dir/inner", "file"); }, true},
-        {[] { fs::create_hard_link("file", "second"), fs::remove("file"); }, false},
-        {[] { fs::remove("file"), fs::rename("second", "file (deleted)"); }, false}};
-    for (const auto& [change, found] : rows) {
-        WriteFile(at_ / "file", "content");
-        _FILE_INFO_tag info;
-        hooks::g.before_readlink = change;
-        EXPECT_EQ(GetFileInfo("file", info), found ? 0 : -1);
-        EXPECT_EQ(info.path, found ? at_ / "file" : "file");
-    }
+// A file that was removed or replaced while it is looked up.
+TEST_F(FileOp, ProbesAnObjectWithoutAName) {
+    const std::string object = "/proc/self/fd/" + std::to_string(open("file", O_PATH));
+    fs::rename("dir/inner", "file");
+    ustring text(object);
+    EXPECT_EQ(FSGetRealPath(text), 0);
+    EXPECT_EQ(text, at_ / "file");
+    fs::rename("file", "file (deleted)");
+    EXPECT_EQ(FSGetRealPath(text = object), -1);
+    close(std::atoi(object.c_str() + 14));
 }
 
 TEST_F(FileOp, WithoutRights) {
@@ -128,9 +127,6 @@ TEST_F(FileOp, WithoutRights) {
     chmod(at_.path().c_str(), 0755);
     chmod("closed", 0700);
     EXPECT_EQ(ReadFile("source") + ReadFile("closed/file"), "sourceclosed/file");
-    hooks::g.access_error = EPERM;
-    EXPECT_TRUE(isFileLocked("file", F_OK));
-    hooks::Reset();
 }
 
 TEST_F(FileOp, ReadDirectory) {
@@ -175,10 +171,8 @@ TEST_F(FileOp, LinksTimesAndOwners) {
     EXPECT_EQ(GetFileInfo("dir", after), 0);
     EXPECT_TRUE(after == before && after.uid == before.uid);
     EXPECT_EQ(Status("link").st_atime, 1000000001);
-    hooks::g.device = 0xFFFFFFF0;  // a device number has 32 bits, with a sign
     EXPECT_EQ(GetFileInfo("link", link), 0);
-    hooks::g.device = 0;
-    EXPECT_EQ(std::tie(link.mtime, link.uid, link.gid, link.dev), std::make_tuple(-5L, uid, gid, -16));
+    EXPECT_EQ(std::tie(link.mtime, link.uid, link.gid), std::make_tuple(-5L, uid, gid));
     EXPECT_EQ(FSUTime("missing", 1, 1), -1);
 }
 

@@ -6,7 +6,6 @@
 #include <clocale>
 
 #include "make_archive.h"
-#include "ui-client/launcher/archive-handles.h"
 #include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/service_fixture.h"
 
@@ -180,12 +179,11 @@ TEST_F(ExtractorTest, RejectsAPackageThatChangesAfterCounting) {
 // Public, but not used by the launcher. The data has several blocks.
 TEST_F(ExtractorTest, CopiesTheDataOfOneEntry) {
     MakeArchive(home / "archive", {{home / "copied", std::string(100000, '1')}});
-    const ArchiveReader reader(archive_read_new());
+    int opened = ARCHIVE_FATAL;
+    const ArchiveReader reader = OpenArchive((home / "archive").c_str(), 10240, opened);
     const ArchiveWriter writer(archive_write_disk_new());
     EXPECT_EQ(extractor.copy_data(nullptr, writer.get()), -1);
     EXPECT_EQ(extractor.copy_data(reader.get(), nullptr), -1);
-    archive_read_support_format_all(reader.get());
-    archive_read_open_filename(reader.get(), (home / "archive").c_str(), 10240);
     archive_entry* entry = nullptr;
     ASSERT_EQ(archive_read_next_header(reader.get(), &entry), ARCHIVE_OK);
     ASSERT_EQ(archive_write_header(writer.get(), entry), ARCHIVE_OK);

@@ -1,5 +1,5 @@
 // The upgrade decision, stopping the client, a whole run, missing permissions, and the recursive copy.
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <algorithm>
 #include <functional>
 #include <regex>
@@ -91,10 +91,9 @@ TEST_F(ServiceTest, LogsTheStepsOfARun) {
 
 TEST_F(ServiceTest, DoesNotStopItself) {
     WriteFile(home / ".Quillmere/ui.pid", "pid=" + std::to_string(getpid()) + "\n");
-    QElapsedTimer timer;
-    timer.start();
+    const QDeadlineTimer soon(3000);
     MacService().StopService();
-    EXPECT_LT(timer.elapsed(), 3000);
+    EXPECT_FALSE(soon.hasExpired());
 }
 
 TEST_F(ServiceTest, CopiesTrees) {
