@@ -96,8 +96,9 @@ std::unique_ptr<QProcess> World::Spawn(const std::function<void()>& in_child, co
 Outcome World::Finish(QProcess& process) const {
     QElapsedTimer timer;
     timer.start();
-    const bool exited = process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit;
-    return {exited ? process.exitCode() : -1, timer.elapsed(), process.readAll().toStdString()};
+    const bool ended = process.waitForFinished(60000);
+    const int code = !ended ? -2 : process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    return {code, timer.elapsed(), process.readAll().toStdString()};
 }
 
 pid_t World::ClientPid() const {

@@ -24,7 +24,7 @@ PackageEntries ClientPackage(int build, const PackageEntries& extra = {}, const 
 std::string Pack(const PackageEntries& entries);
 
 struct Outcome {
-    int exit_code = -1;  // -1 if a signal ended it
+    int exit_code = -1;  // -1 if a signal ended it; -2 if it did not end within a minute
     qint64 milliseconds = 0;
     std::string output;  // standard output and error
 };

@@ -226,7 +226,7 @@ TEST(Launcher, EndsWhenItsSupervisorIsAskedTo) {
         ASSERT_TRUE(WaitFor([&] { return Contains(world.Log(), ": extract package: "); }));
         const pid_t launcher = LauncherOf(*start);
         EXPECT_EQ(kill(static_cast<pid_t>(start->processId()), number), 0);
-        EXPECT_EQ(world.Finish(*start).exit_code, -1);
+        ASSERT_EQ(world.Finish(*start).exit_code, -1);
         if (number == SIGKILL) {
             deliver_package();
         } else {
