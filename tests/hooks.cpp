@@ -59,6 +59,8 @@ Function* Next(const char* name) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
+void CountDescriptors() { g.inheritable = std::max(g.inheritable, hooks::InheritableDescriptors()); }
+
 int OpenAt(int directory, const char* path, int flags) {
     if (g.before_openat && g.openat_calls_before-- == 0) { RunOnce(g.before_openat); }
     return static_cast<int>(syscall(SYS_openat, directory, path, flags));
@@ -84,6 +86,7 @@ int fsync(int file) {
 
 int syncfs(int file) noexcept {
     ++g.syncfs;
+    CountDescriptors();
     return static_cast<int>(syscall(SYS_syncfs, file));
 }
 
@@ -91,6 +94,11 @@ int openat(int directory, const char* path, int flags, ...) { return OpenAt(dire
 
 // Some compilers call this one in fortified code.
 int __openat64_2(int directory, const char* path, int flags) { return OpenAt(directory, path, flags); }
+
+ssize_t readlink(const char* path, char* text, size_t size) noexcept {
+    CountDescriptors();
+    return syscall(SYS_readlinkat, AT_FDCWD, path, text, size);
+}
 
 ssize_t read(int file, void* bytes, size_t size) {
     return syscall(SYS_read, file, bytes, std::min(size, g.most_bytes));

@@ -23,6 +23,7 @@ struct Hooks {
     int fsyncs = 0;
     int syncfs = 0;
     int mutex_inits = 0;
+    int inheritable = 0;  // the most InheritableDescriptors() at a readlink(2) or syncfs(2)
 };
 
 extern Hooks g;

@@ -20,14 +20,15 @@ void OnShow(const QProgressDialog& dialog) {
     const auto label = dialog.findChild<QLabel*>();
     const auto bar = dialog.findChild<QProgressBar*>();
     Report(dialog.windowTitle() + ", " + label->text());
-    Report(QString("%1 pixels on %2, modal: %6, buttons: %7, icon of %3, %4 on %5")
+    Report(QString("%1 pixels on %2, modal: %6, buttons: %7, closable: %8, icon of %3, %4 on %5")
                .arg(qRound(dialog.width() * dialog.devicePixelRatioF() / 10) * 10)
                .arg(QGuiApplication::platformName())
                .arg(dialog.windowIcon().actualSize({500, 500}).width())
                .arg(label->palette().windowText().color().name())
                .arg(bar->palette().base().color().name())
                .arg(dialog.isModal())
-               .arg(dialog.findChildren<QAbstractButton*>().size()));
+               .arg(dialog.findChildren<QAbstractButton*>().size())
+               .arg(dialog.windowFlags().testFlag(Qt::WindowCloseButtonHint)));
     label->setText("overwritten");
     QObject::connect(bar, &QProgressBar::valueChanged, [label, bar](int value) {
         Report(QString("%1, %2").arg(value).arg(label->text()));

@@ -36,6 +36,7 @@ void Begin(Session& session) {
     session.process = world.Spawn(
         [&session] {
             fs::current_path(session.world.dir.path());
+            signal(SIGCHLD, SIG_IGN);  // as a parent may leave it
             std::for_each(session.closed.begin(), session.closed.end(), close);
         },
         session.arguments);

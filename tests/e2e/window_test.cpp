@@ -158,7 +158,7 @@ TEST(ProgressWindow, ShowsTheUpgradeAndNothingElse) {
         const Outcome run = world.Run();
         EXPECT_TRUE(Succeeded(run, world, row.package == good ? 2 : 1));
         const std::string shown = "Quillmere Drive, " + row.label + "\n" + std::to_string(400 * row.resolution / 96) +
-                                  " pixels on xcb, modal: 1, buttons: 0, icon of 72, #000000 on #ffffff\n";
+                                  " pixels on xcb, modal: 1, buttons: 0, closable: 0, icon of 72, #000000 on #ffffff\n";
         const std::string reported = SpyOutput(run);
         EXPECT_EQ(row.rest.empty() ? reported.substr(0, shown.size()) : reported,
                   row.label.empty() ? "" : shown + row.rest);

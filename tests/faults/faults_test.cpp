@@ -30,7 +30,7 @@ const struct Scenario {
     User start, after;  // of an undisturbed run
     bool damaged = false;
 } kScenarios[] = {
-    {"FirstInstall", {}, {{kApp, kNew}}},
+    {"FirstInstall", {{"app", kNoVersion}}, {{kApp, kNew}}},
     {"Upgrade", {{kApp, kOld}}, {{kApp, kNew}}},
     {"UpgradeOverLeftovers",
      {{kApp, kNoVersion}, {"Quillmere.app_tmp", kOld}, {"Quillmere.app_tmp7", kSomebodys}},

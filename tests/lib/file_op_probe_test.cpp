@@ -84,7 +84,10 @@ void TestProbes(const TempDir& at) {
     EXPECT_EQ(info.dev, 0);
 }
 
-TEST_F(FileOp, Probes) { TestProbes(at_); }
+TEST_F(FileOp, Probes) {
+    TestProbes(at_);
+    EXPECT_EQ(hooks::g.inheritable, 0);
+}
 
 TEST_F(FileOp, ProbesWithoutProc) {
     const auto hide_proc = [] { return OwnMounts() && !mount("", "/proc", "tmpfs", 0, nullptr); };

@@ -58,6 +58,7 @@ TEST(FlushTree, FlushesTheWholeVolume) {
     const TempDir dir;
     EXPECT_EQ(FlushTree(dir.path().c_str()), 0);
     EXPECT_EQ(hooks::g.syncfs, 1);
+    EXPECT_EQ(hooks::g.inheritable, 0);
     EXPECT_EQ(FlushTree((dir / "missing").c_str()), -1);
     EXPECT_EQ(errno, ENOENT);
     hooks::Reset();
