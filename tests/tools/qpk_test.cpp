@@ -131,7 +131,7 @@ TEST_F(QpkTest, CheckFindsTheFaultsOfOtherPackers) {
         {"ln -s $OLDPWD/out z && tar -cf ../p z && rm z && mkdir z && : > z/f && tar -rf ../p z/f; rm -r z",
          "/out, outside the client"},
         {"tar -czf ../p Contents Contents/MacOS/quillmere-ui", "quillmere-ui: appears twice"},
-        {"tar -czf ../p Contents R --transform s,R$,contents/x,", "contents: differs from Contents only"},
+        {"tar -czf ../p Contents R --transform s,R$,Contents/macos/x/y,", "os: differs from Contents/MacOS only"},
         {"tar -czf ../p R --transform s,R,$(printf 'r%.0s' {1..256}),", "r: has a name longer than 255"},
         {"tar -cf - Contents | head -c 30000 > ../p", "p: is damaged after "},
         {"head -c 1000 ../good > ../p", "p: cannot be read as an archive: "},
