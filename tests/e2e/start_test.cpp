@@ -102,7 +102,7 @@ TEST(Launcher, StartsInSessionsOfManyKinds) {
     const std::string hung = ": the previous attempt did not answer" + rest;
     const std::string ended = ": the previous attempt exited with 1" + rest;
     Session slow[] = {
-        {"silent display", false, With(ListenAsDisplay(server)), {}, {}, hung},
+        {"silent display, streams 0 and 1 closed", false, With(ListenAsDisplay(server)), {0, 1}, {}, hung},
         {"silent bus", true, With(display, "DBUS_SESSION_BUS_ADDRESS", "unix:path=" + silent_bus)},
         {"silent session manager", true, With(display, "SESSION_MANAGER", "unix/unix:" + silent_bus)},
     };

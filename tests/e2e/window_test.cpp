@@ -8,14 +8,15 @@
 namespace {
 
 // Messages of a session manager (Inter-Client Exchange Protocol, X Session Management Protocol): ByteOrder,
-// ConnectionReply, ProtocolReply and RegisterClientReply; SaveYourself; Ping; Die. The client's SaveYourselfDone and
-// PingReply.
+// ConnectionReply, ProtocolReply and RegisterClientReply; SaveYourself; Ping; Die. The client's SaveYourselfDone,
+// InteractRequest and PingReply.
 const QByteArray kWelcome = QByteArray::fromHex(
     "0001000000000000 00060000010000000000000000000000 00080001010000000000000000000000"
     "01020000010000000100000078000000");
 const QByteArray kSave = QByteArray::fromHex("01030000010000000201020000000000");
 const QByteArray kDie = QByteArray::fromHex("0109000000000000");
 const QByteArray kSaved = QByteArray::fromHex("0108010000000000");
+const QByteArray kAsks = QByteArray::fromHex("0105010000000000");
 const QByteArray kPing = QByteArray::fromHex("0009000000000000");
 const QByteArray kPingReply = QByteArray::fromHex("000a");  // the first two bytes of eight
 
@@ -105,6 +106,7 @@ TEST(ProgressWindow, NothingThatHappensToItStopsTheRun) {
         Scene& scene = scenes.front();
         EXPECT_TRUE(Succeeded(scene.world.Finish(*scene.launcher), scene.world, 2));
         EXPECT_EQ(scene.Hears(kSaved), row.name == std::string("log-out"));
+        EXPECT_FALSE(scene.Hears(kAsks));
         EXPECT_TRUE(row.name == std::string("server frozen") || scene.world.Locks().empty());
         scenes.pop_front();
     }
